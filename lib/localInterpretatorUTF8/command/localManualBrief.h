@@ -1,0 +1,6 @@
+// The text of HELP.
+#pragma once
+
+#include <string_view>
+
+extern const std::u16string_view localManualBrief;

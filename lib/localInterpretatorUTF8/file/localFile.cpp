@@ -1,0 +1,118 @@
+#include "localInterpretatorUTF8/file/localFile.h"
+
+#include <memory>
+
+#include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/host/localHost.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+
+namespace {
+
+using FileHandle = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+FileHandle opened(std::u16string_view name, const char* mode) {
+    return {localPlatform::openFile(name, mode), &std::fclose};
+}
+
+bool readBytes(std::u16string_view fileName, std::string& bytes) {
+    const FileHandle file = opened(fileName, "rb");
+    if (file == nullptr) {
+        return false;
+    }
+    char block[65536];
+    std::size_t count = 0;
+    while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
+        bytes.append(block, count);
+    }
+    return std::ferror(file.get()) == 0;
+}
+
+// Text mode: a file's own last line end does not make one more, empty line.
+std::string_view withoutFinalLineEnd(std::string_view bytes) {
+    if (!bytes.empty() && bytes.back() == '\n') {
+        bytes.remove_suffix(1);
+    }
+    return bytes;
+}
+
+}  // namespace
+
+bool fileRead(std::u16string_view fileName, std::u16string& text,
+              localString::possibleCodePage codePage) {
+    std::string bytes;
+    if (!readBytes(fileName, bytes)) {
+        return false;
+    }
+    if (codePage == localString::codePageBase64) {
+        text += localString::toBase64(bytes);
+        return true;
+    }
+    if (bytes.empty()) {
+        return true;
+    }
+    std::string_view rest = withoutFinalLineEnd(bytes);
+    if (text.empty()) {
+        while (!rest.empty() && rest.front() == '\n') {
+            rest.remove_prefix(1);
+        }
+    } else {
+        text += u'\n';
+    }
+    text += localString::fromBytes(rest, codePage);
+    return true;
+}
+
+bool loadFileToText(int& status, std::u16string_view fileName, std::u16string& text,
+                    std::u16string_view codePageName) {
+    text.clear();
+    std::string bytes;
+    if (!readBytes(fileName, bytes)) {
+        status = localErrorTypeFILENOTFOUND;
+        return false;
+    }
+    text = localString::fromBytes(withoutFinalLineEnd(bytes),
+                                  localString::codePageFromName(codePageName));
+    return true;
+}
+
+bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage,
+               std::u16string_view text, std::u16string_view fileName) {
+    if (fileName.empty()) {
+        return false;
+    }
+    FileHandle file = opened(fileName, mode == FileWriteMode::append ? "ab" : "wb");
+    bool written = file != nullptr;
+    if (written) {
+        const std::string bytes = localString::toBytes(text, codePage);
+        written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+        written = std::fclose(file.release()) == 0 && written;
+    }
+    if (!written) {
+        localHost& host = localHost::current();
+        host.setCursor(localHost::Cursor::arrow);
+        host.messageBox(localHost::MessageKind::critical, u"save",
+                        u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
+                            localString::fromUtf8(traceTail("fileWrite")));
+        host.setCursor(localHost::Cursor::restored);
+    }
+    return written;
+}
+
+std::u16string logFileName() {
+    return localStd::pathJoin(localStd::startDirectory(), u"current.log");
+}
+
+void appendToLog(std::u16string_view fileName, std::string_view bytes, std::string_view function) {
+    const FileHandle file = opened(fileName, "ab");
+    if (file == nullptr) {
+        traceLine(u"Logfile [" + std::u16string(fileName) + u"] open ERROR!", function);
+        return;
+    }
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+}
+
+void logWrite(std::u16string_view text) {
+    appendToLog(logFileName(), localString::toUtf8(text) + '\n', "logWrite");
+}

@@ -1,0 +1,62 @@
+// Everything that differs by operating system, one function each. One source file a system implements it.
+//
+// Names and paths are wide text in the language's form; the implementation turns them into what its
+// system takes (UTF-8 bytes, or CP1251 on Windows) and both "\\" and "/" into its own separator.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace localPlatform {
+
+// The separator of folders.
+extern const char16_t pathSeparator;
+
+// "\\" and "/" become the system's separator.
+std::u16string normalizedPath(std::u16string_view path);
+
+// A file name as bytes for system calls and back.
+std::string fileNameToBytes(std::u16string_view name);
+std::u16string fileNameFromBytes(std::string_view bytes);
+
+// As fopen; null when the file cannot be opened, and for a folder.
+std::FILE* openFile(std::u16string_view name, const char* mode);
+
+bool fileReadable(std::u16string_view name);
+bool pathExists(std::u16string_view path);
+bool removeFile(std::u16string_view name);
+
+// The working directory, empty when it cannot be told.
+std::u16string workingDirectory();
+bool changeWorkingDirectory(std::u16string_view path);
+
+struct DirectoryEntry {
+    std::u16string name;
+    bool isDirectory;
+};
+// What lies in a folder, without "." and "..": folders first, then files, each sorted by name. A folder
+// that cannot be read gives an empty list.
+std::vector<DirectoryEntry> directoryEntries(std::u16string_view path);
+
+// Physical memory in bytes that new programs can have.
+std::uint64_t accessibleMemory();
+
+// Lowest address that the calling thread's stack may grow down to.
+const char* stackLimit();
+
+// Milliseconds since the process started.
+double processMilliseconds();
+
+// The full path of the program, where the system tells it; else as given.
+std::string programPath(const char* argv0);
+
+// A shell runs the command line; nobody waits for it.
+bool startProgram(std::u16string_view commandLine);
+// The person's text editor opens the file; nobody waits for it.
+bool startEditor(std::u16string_view fileName);
+
+}  // namespace localPlatform

@@ -1,0 +1,128 @@
+#include <direct.h>
+#include <io.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/text/localString.h"
+
+namespace localPlatform {
+namespace {
+
+const auto processStart = std::chrono::steady_clock::now();
+
+std::string systemPath(std::u16string_view name) {
+    return fileNameToBytes(normalizedPath(name));
+}
+
+bool isDirectory(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
+
+const char16_t pathSeparator = u'\\';
+
+std::u16string normalizedPath(std::u16string_view path) {
+    std::u16string normal(path);
+    std::replace(normal.begin(), normal.end(), u'/', u'\\');
+    return normal;
+}
+
+std::string fileNameToBytes(std::u16string_view name) {
+    return localString::toBytes(name, localString::codePageCP1251);
+}
+
+std::u16string fileNameFromBytes(std::string_view bytes) {
+    return localString::fromBytes(bytes, localString::codePageCP1251);
+}
+
+std::FILE* openFile(std::u16string_view name, const char* mode) {
+    const std::string path = systemPath(name);
+    return path.empty() || isDirectory(path) ? nullptr : std::fopen(path.c_str(), mode);
+}
+
+bool fileReadable(std::u16string_view name) {
+    const std::string path = systemPath(name);
+    return !isDirectory(path) && _access(path.c_str(), 4) == 0;
+}
+
+bool pathExists(std::u16string_view name) {
+    return _access(systemPath(name).c_str(), 0) == 0;
+}
+
+bool removeFile(std::u16string_view name) {
+    return std::remove(systemPath(name).c_str()) == 0;
+}
+
+std::u16string workingDirectory() {
+    char path[MAX_PATH];
+    return _getcwd(path, sizeof path) == nullptr ? std::u16string() : fileNameFromBytes(path);
+}
+
+bool changeWorkingDirectory(std::u16string_view path) {
+    return _chdir(systemPath(path).c_str()) == 0;
+}
+
+std::vector<DirectoryEntry> directoryEntries(std::u16string_view path) {
+    std::vector<DirectoryEntry> entries;
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = FindFirstFileA((systemPath(path) + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return entries;
+    }
+    do {
+        const std::string name = found.cFileName;
+        if (name != "." && name != "..") {
+            entries.push_back({fileNameFromBytes(name),
+                               (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+        }
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) {
+        return a.isDirectory != b.isDirectory ? a.isDirectory : a.name < b.name;
+    });
+    return entries;
+}
+
+std::uint64_t accessibleMemory() {
+    MEMORYSTATUSEX status{};
+    status.dwLength = sizeof status;
+    GlobalMemoryStatusEx(&status);
+    return status.ullAvailPhys;
+}
+
+const char* stackLimit() {
+    ULONG_PTR lowest = 0;
+    ULONG_PTR highest = 0;
+    GetCurrentThreadStackLimits(&lowest, &highest);
+    return reinterpret_cast<const char*>(lowest);
+}
+
+double processMilliseconds() {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() -
+                                                     processStart)
+        .count();
+}
+
+std::string programPath(const char* argv0) {
+    char path[MAX_PATH];
+    const DWORD length = GetModuleFileNameA(nullptr, path, sizeof path);
+    return length == 0 || length == sizeof path ? argv0 : std::string(path, length);
+}
+
+bool startProgram(std::u16string_view commandLine) {
+    return std::system(("start \"\" " + fileNameToBytes(commandLine)).c_str()) == 0;
+}
+
+bool startEditor(std::u16string_view fileName) {
+    const bool better = fileReadable(u"C:\\Program Files (x86)\\Notepad++\\notepad++.exe");
+    return std::system(((better ? "start \"\" notepad++.exe " : "start \"\" notepad.exe ") +
+                        systemPath(fileName)).c_str()) == 0;
+}
+
+}  // namespace localPlatform

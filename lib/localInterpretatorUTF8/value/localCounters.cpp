@@ -1,0 +1,36 @@
+#include "localInterpretatorUTF8/value/localCounters.h"
+
+#include <array>
+
+#include "localInterpretatorUTF8/class/localClassDeclaration.h"
+#include "localInterpretatorUTF8/context/localContextUTF8.h"
+
+namespace {
+
+std::array<localCounter, 8>& table() {
+    static std::array<localCounter, 8> counters{{
+        {"localContextUTF8::counterStaticTotal", &localContextUTF8::counterStaticTotal},
+        {"localClassDeclaration::counterStaticTotal", &localClassDeclaration::counterStaticTotal},
+        {"localValueDescription::counterStaticTotal", &localValueDescription::counterStaticTotal},
+        {"localValueList::counterStaticTotal", nullptr},
+        {"localValueTable::counterStaticTotal", nullptr},
+        {"localDataBase::counterStaticTotal", nullptr},
+        {"localDataBaseTable::counterStaticTotal", nullptr},
+        {"localDataBaseRecord::counterStaticTotal", nullptr},
+    }};
+    return counters;
+}
+
+}  // namespace
+
+std::span<const localCounter> localCounters() {
+    return table();
+}
+
+void localCounterInstall(std::string_view name, const std::int64_t* total) {
+    for (localCounter& counter : table()) {
+        if (counter.name == name) {
+            counter.total = total;
+        }
+    }
+}

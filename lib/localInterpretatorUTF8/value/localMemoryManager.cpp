@@ -1,0 +1,142 @@
+#include "localInterpretatorUTF8/value/localMemoryManager.h"
+
+#include <bit>
+#include <iostream>
+#include <new>
+#include <sstream>
+
+#include "localInterpretatorUTF8/file/localFile.h"
+#include "localInterpretatorUTF8/text/localHalt.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/value/localCounters.h"
+
+localMemoryManager* localMemoryManager::manager = nullptr;
+
+namespace {
+constexpr std::size_t bitsPerWord = 64;
+constexpr std::size_t longestListing = 0x100;
+}  // namespace
+
+void localMemoryManager::start() {
+    if (manager == nullptr) {
+        manager = new localMemoryManager;
+    }
+}
+
+localMemoryManager::localMemoryManager(std::size_t capacity) : capacity_(capacity) {
+    static bool constructedOnce = false;
+    if (constructedOnce) {
+        traceLine({}, "localMemoryManager");
+        exit_FAILURE(u"localMemoryManager cannot be constructed twice");
+    }
+    constructedOnce = true;
+}
+
+localMemoryManager::~localMemoryManager() {
+    for (std::size_t i = 0; i < constructed_; ++i) {
+        slots_[i].~localValueDescription();
+    }
+    ::operator delete(slots_);
+}
+
+void localMemoryManager::build() {
+    slots_ = static_cast<localValueDescription*>(
+        ::operator new(capacity_ * sizeof(localValueDescription)));
+    localValueDescription::counterStaticTotal += static_cast<std::int64_t>(capacity_);
+    std::size_t bits = capacity_;
+    for (Words& level : free_) {
+        level.assign((bits + bitsPerWord - 1) / bitsPerWord, ~std::uint64_t{0});
+        if (bits % bitsPerWord != 0) {
+            level.back() = (std::uint64_t{1} << bits % bitsPerWord) - 1;
+        }
+        bits = level.size();
+    }
+}
+
+// Sets or clears the bit of a slot, and those of the words above that thereby begin or cease to have one.
+void localMemoryManager::mark(std::size_t index, bool free) {
+    for (Words& level : free_) {
+        std::uint64_t& word = level[index / bitsPerWord];
+        const std::uint64_t bit = std::uint64_t{1} << index % bitsPerWord;
+        const std::uint64_t before = word;
+        word = free ? word | bit : word & ~bit;
+        if ((before == 0) == (word == 0)) {
+            return;
+        }
+        index /= bitsPerWord;
+    }
+}
+
+localValueDescription* localMemoryManager::reserveSlot() {
+    if (slots_ == nullptr) {
+        build();
+    }
+    std::size_t index = 0;
+    for (std::size_t level = free_.size(); level-- > 0;) {
+        const std::uint64_t word = free_[level][index];
+        if (word == 0) {
+            exit_FAILURE(u"Memory manager (localMemoryManager) overflow. Resize not available");
+        }
+        index = index * bitsPerWord + static_cast<std::size_t>(std::countr_zero(word));
+    }
+    mark(index, false);
+    ++used_;
+    localValueDescription* slot = slots_ + index;
+    if (index == constructed_) {
+        new (slot) localValueDescription;
+        --localValueDescription::counterStaticTotal;  // build() counted it
+        ++constructed_;
+    } else {
+        slot->objClass = nullptr;
+        slot->pointer = nullptr;
+        slot->wStr.clear();
+    }
+    slot->linkCounter = 1;
+    return slot;
+}
+
+void localMemoryManager::slotFreed(const localValueDescription* slot) {
+    --used_;
+    mark(static_cast<std::size_t>(slot - slots_), true);
+}
+
+void localMemoryManager::memoryDisplayData() {
+    memoryDisplayData(std::cout);
+}
+
+void localMemoryManager::memoryDisplayData(std::ostream& stream) {
+    if (manager == nullptr) {
+        stream << "localMemoryManager::manager not created yet!" << std::endl;
+        return;
+    }
+    const std::size_t length = manager->getReservedCount();
+    stream << " [num]  [addr]  [links] [obj-links]" << std::endl;
+    for (std::size_t i = 0; i < length && length <= longestListing; ++i) {
+        static const localValueDescription never;
+        const localValueDescription* slot = manager->slots_ + i;
+        const localValueDescription& shown = i < manager->constructed_ ? *slot : never;
+        stream << " [" << i << "]  [" << slot << "]  [" << shown.linkCounter << "] ";
+        if (shown.isLive()) {
+            stream << " [" << shown.objectLinks() << "] ";
+        }
+        stream << localString::toUtf8(shown.dump()) << std::endl;
+    }
+    stream << "all reserved " << length << std::endl;
+    stream << "used " << manager->used_ << std::endl;
+    for (const localCounter& counter : localCounters()) {
+        stream << counter.name << ' ' << (counter.total == nullptr ? 0 : *counter.total)
+               << std::endl;
+    }
+    stream << std::endl;
+    stream << localString::toUtf8(
+                  u"Внимание!!! При вызове из интерпретатора функции memoryDisplayData() два "
+                  u"элемента данных добавляются самим интерпретатором.")
+           << std::endl;
+}
+
+void localMemoryManager::dispToLog(std::u16string_view fileName) {
+    std::ostringstream listing;
+    memoryDisplayData(listing);
+    appendToLog(fileName, listing.str(), "dispToLog");
+}

@@ -1,0 +1,67 @@
+#include "localRunnerPrograms.h"
+
+#include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/file/localFile.h"
+#include "localInterpretatorUTF8/program/localProgram.h"
+#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+
+namespace localRunnerPrograms {
+namespace {
+
+enum ExitCode { valueOne = 0, failed = 1, unreadable = 2, valueOther = 3 };
+
+bool load(const std::u16string& fileName, std::u16string& text, const char* function) {
+    int status = localErrorTypeOK;
+    if (loadFileToText(status, fileName, text, u"Utf8")) {
+        return true;
+    }
+    writeLine(u"Error! ");
+    traceLine(statusMessage(status), function);
+    return false;
+}
+
+bool compiled(const std::u16string& text, localOperatorCompiled& root) {
+    int status = localErrorTypeOK;
+    return programCompile(status, text, root, "textExec");
+}
+
+}  // namespace
+
+int run(const std::u16string& fileName) {
+    localContextUTF8 context;
+    std::u16string text;
+    if (!load(fileName, text, "run")) {
+        return unreadable;
+    }
+    int status = localErrorTypeOK;
+    if (!textExec(status, text, &context)) {
+        traceLine(statusMessage(status), "run");
+        return failed;
+    }
+    return status == localErrorTypeRESULTNOTONE ? valueOther : valueOne;
+}
+
+int check(const std::u16string& fileName) {
+    std::u16string text;
+    if (!load(fileName, text, "check")) {
+        return unreadable;
+    }
+    localOperatorCompiled root;
+    return compiled(text, root) ? valueOne : failed;
+}
+
+int dump(const std::u16string& fileName) {
+    std::u16string text;
+    if (!load(fileName, text, "dump")) {
+        return unreadable;
+    }
+    localOperatorCompiled root;
+    if (!compiled(text, root)) {
+        return failed;
+    }
+    root.dump();
+    return valueOne;
+}
+
+}  // namespace localRunnerPrograms

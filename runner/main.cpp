@@ -1,0 +1,48 @@
+// korvo-run: the language in a terminal, for scripts, scheduled jobs and tests.
+#include <clocale>
+#include <iostream>
+
+#include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localRunnerOptions.h"
+#include "localRunnerPrograms.h"
+#include "localTypedLines.h"
+
+namespace {
+
+int act(const localRunnerOptions& options) {
+    switch (options.action) {
+        case localRunnerOptions::Action::help:
+            std::cout << localRunnerOptions::usage();
+            return 0;
+        case localRunnerOptions::Action::version:
+            std::cout << localRunnerOptions::version() << std::endl;
+            return 0;
+        case localRunnerOptions::Action::program:
+            return localRunnerPrograms::run(options.fileName);
+        case localRunnerOptions::Action::check:
+            return localRunnerPrograms::check(options.fileName);
+        case localRunnerOptions::Action::dump:
+            return localRunnerPrograms::dump(options.fileName);
+        case localRunnerOptions::Action::lines:
+            return localTypedLines::actOn(options.lines);
+        case localRunnerOptions::Action::standardInput:
+            return localTypedLines::actOnStandardInput();
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    std::ios::sync_with_stdio(false);
+    std::setlocale(LC_CTYPE, "");
+    localStd::argv0Set(localPlatform::programPath(argv[0]));
+    localStd::startDirectory();
+    localRunnerOptions options;
+    if (!options.read(argc, argv)) {
+        std::cerr << options.fault << std::endl;
+        return 2;
+    }
+    return act(options);
+}
