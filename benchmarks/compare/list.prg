@@ -1,0 +1,9 @@
+list = CREATEOBJECT("VALUELIST");
+FOR i=1 TO 1000000 DO
+    list.VALUEADD(i);
+ENDDO;
+s = 0;
+FOR i=1 TO 1000000 DO
+    s = s+list.VALUEGET(i);
+ENDDO;
+? s;
