@@ -98,9 +98,9 @@ localClassDeclaration* localContextUTF8::classDeclaration() {
     return declaration;
 }
 
-bool localContextUTF8::valueOfName(int& status, std::u16string_view name,
-                                   localValueDescription& value) {
-    const localUpperName upper(name);
+bool localContextUTF8::valueOfUpperName(int& status, std::u16string_view name,
+                                        const localUpperName& upper,
+                                        localValueDescription& value) {
     bool word = false;
     if (upper.view().size() >= 4 && upper.view().size() <= 6 && booleanWord(upper, word)) {
         value.setBoolean(word);
@@ -115,13 +115,21 @@ bool localContextUTF8::valueOfName(int& status, std::u16string_view name,
     return true;
 }
 
+bool localContextUTF8::valueOfName(int& status, std::u16string_view name,
+                                   localValueDescription& value) {
+    return valueOfUpperName(status, name, localUpperName(name), value);
+}
+
 bool localContextUTF8::nameRead(int& status, std::u16string_view name,
                                 localValueDescription& value) {
+    const localUpperName upper(name);
     // Members are looked up as written: ABS names the function and cannot be read, abs names a variable.
-    const localClassMember* member = classDeclaration()->memberFind(name);
-    if (member != nullptr && member->attribGetFunction == nullptr) {
-        status = localErrorTypeATTRIBUTENOTREADABLE;
-        return false;
+    if (upper.wasUpper()) {
+        const localClassMember* member = classDeclaration()->memberFind(upper, upper.hash());
+        if (member != nullptr && member->attribGetFunction == nullptr) {
+            status = localErrorTypeATTRIBUTENOTREADABLE;
+            return false;
+        }
     }
-    return valueOfName(status, name, value);
+    return valueOfUpperName(status, name, upper, value);
 }

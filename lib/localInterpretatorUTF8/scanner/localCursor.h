@@ -90,20 +90,21 @@ struct localCursor {
             case u'>':
                 return at[1] == u'=' ? found(localBinaryOperationGREATEROREQUAL, 2)
                                      : found(localBinaryOperationGREATER, 1);
+            case u'O':
+            case u'o':
+                return startsIgnoringCase(u"OR") ? found(localBinaryOperationOR, 2)
+                                                 : localBinaryOperationNONE;
+            case u'A':
+            case u'a':
+                return startsIgnoringCase(u"AND") ? found(localBinaryOperationAND, 3)
+                                                  : localBinaryOperationNONE;
+            case u'И':
+            case u'и':
+                return startsIgnoringCase(u"ИЛИ") ? found(localBinaryOperationOR, 3)
+                                                  : found(localBinaryOperationAND, 1);
             default:
-                break;
+                return localBinaryOperationNONE;
         }
-        if (startsIgnoringCase(u"OR")) {
-            return found(localBinaryOperationOR, 2);
-        }
-        if (startsIgnoringCase(u"ИЛИ")) {
-            return found(localBinaryOperationOR, 3);
-        }
-        if (startsIgnoringCase(u"AND")) {
-            return found(localBinaryOperationAND, 3);
-        }
-        return startsIgnoringCase(u"И") ? found(localBinaryOperationAND, 1)
-                                        : localBinaryOperationNONE;
     }
 
     // The text between two equal delimiters, the first of which is the present unit. False when there is

@@ -205,16 +205,30 @@ private:
         if (cursor.atEnd()) {
             return localUnaryOperationNONE;
         }
-        if (*cursor.at == u'-') {
-            ++cursor.at;
-            return localUnaryOperationNEGATE;
+        switch (*cursor.at) {
+            case u'-':
+                ++cursor.at;
+                return localUnaryOperationNEGATE;
+            case u'!':
+                ++cursor.at;
+                return localUnaryOperationNOT;
+            case u'Н':
+            case u'н':
+                return notWord(u"НЕ");
+            case u'N':
+            case u'n':
+                return notWord(u"NOT");
+            default:
+                return localUnaryOperationNONE;
         }
-        const int length = *cursor.at == u'!'                   ? 1
-                           : cursor.startsIgnoringCase(u"НЕ")  ? 2
-                           : cursor.startsIgnoringCase(u"NOT") ? 3
-                                                                : 0;
-        cursor.at += length;
-        return length == 0 ? localUnaryOperationNONE : localUnaryOperationNOT;
+    }
+
+    int notWord(std::u16string_view word) {
+        if (!cursor.startsIgnoringCase(word)) {
+            return localUnaryOperationNONE;
+        }
+        cursor.at += word.size();
+        return localUnaryOperationNOT;
     }
 
     // "?" expression ":" expression behind an operand, as often as it comes. It tests the operand just

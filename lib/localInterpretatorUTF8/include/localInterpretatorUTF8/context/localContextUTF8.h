@@ -140,6 +140,8 @@ public:
     static localClassDeclaration* classDeclaration();
 
 private:
+    bool valueOfUpperName(int& status, std::u16string_view name, const localUpperName& upper,
+                          localValueDescription& value);
     void enter(localContextUTF8* parentContext);
     void nativeFunctionsAdd();
 

@@ -85,6 +85,7 @@ public:
         std::uint32_t hash = 2166136261U;
         for (std::size_t i = 0; i < size_; ++i) {
             units[i] = toUpper(name[i]);
+            wasUpper_ = wasUpper_ && units[i] == name[i];
             hash = (hash ^ units[i]) * 16777619U;
         }
         hash_ = hash;
@@ -97,11 +98,14 @@ public:
     }
     operator std::u16string_view() const { return view(); }
     std::uint32_t hash() const { return hash_; }
+    // Whether the name came in capitals already.
+    bool wasUpper() const { return wasUpper_; }
 
 private:
     static constexpr std::size_t inlineSize = 48;
     std::size_t size_;
     std::uint32_t hash_ = 0;
+    bool wasUpper_ = true;
     std::unique_ptr<char16_t[]> heap_;
     char16_t inline_[inlineSize];
 };
