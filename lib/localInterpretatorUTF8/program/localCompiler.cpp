@@ -1,5 +1,6 @@
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
@@ -277,16 +278,15 @@ private:
             }
             branch.setExpression(condition, true);
             node.operators.push_back(std::move(branch));
-            if (status_ == localErrorTypeENDIF) {
-                status_ = localErrorTypeOK;
+            const int terminatorStatus = std::exchange(status_, localErrorTypeOK);
+            if (terminatorStatus == localErrorTypeENDIF) {
                 block_.operators.push_back(std::move(node));
                 return true;
             }
-            if (status_ == localErrorTypeELSE) {
+            if (terminatorStatus == localErrorTypeELSE) {
                 noCondition = true;
-            } else if (status_ != localErrorTypeELSEIF) {
-                return fail(localErrorTypeENDIFEXPECTED);
             }
+            // A word that ends another construct is read on as if it were ELSEIF; what follows fails.
         }
         return fail(localErrorTypeENDIFEXPECTED);
     }

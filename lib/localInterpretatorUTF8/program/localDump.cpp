@@ -1,6 +1,8 @@
 // The compiled tree as a person reads it.
 #include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
+#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace {
@@ -53,6 +55,10 @@ void dumpIf(const localOperatorCompiled& node, int indent) {
 }  // namespace
 
 void localOperatorCompiled::dump(int indent) const {
+    int status = localErrorTypeOK;
+    if (!localStackGuard::enter(status, "COUT")) {
+        return;
+    }
     const std::u16string start = lineStart(*this, indent);
     const std::u16string text(expression());
     switch (type) {

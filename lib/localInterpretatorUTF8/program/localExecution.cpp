@@ -70,9 +70,6 @@ bool block(const Run& run) {
 
 // The new scope's parent is the caller's and not the definer's: a function sees its caller's variables.
 bool functionBody(const Run& run) {
-    if (!localStackGuard::enter(run.status, "execute")) {
-        return false;
-    }
     if (run.args.size() < run.node.arguments.size()) {
         return run.fail(localErrorTypePARAMETERCOUNT);
     }
@@ -197,6 +194,9 @@ bool localOperatorCompiled::execute(int& status, localContextUTF8* context,
     const Run run{status, context, node, args, result};
     switch (node.type) {
         case localCompiledOperatorTypeBLOCK:
+            if (!localStackGuard::enter(status, "execute")) {
+                return false;
+            }
             return node.name.empty() ? block(run) : functionBody(run);
         case localCompiledOperatorTypeBREAK:
             status = localErrorTypeBREAK;
