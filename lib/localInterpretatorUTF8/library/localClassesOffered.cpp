@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/small/localClassForTest.h"
@@ -16,14 +18,17 @@ struct OfferedClass {
     Declarations (*declare)();  // null: the class of a higher library that is not there
 };
 
-Declarations testClass() {
-    static localClassDeclaration* const declarations[] = {localClassForTest::classDeclaration()};
+template <class Native>
+Declarations classOf() {
+    static localClassDeclaration* const declarations[] = {Native::classDeclaration()};
     return declarations;
 }
 
 std::vector<OfferedClass>& offeredClasses() {
     static std::vector<OfferedClass> classes{
-        {u"TEST", u"ТЕСТ", testClass},
+        {u"TEST", u"ТЕСТ", classOf<localClassForTest>},
+        {u"VALUELIST", u"СПИСОКЗНАЧЕНИЙ", classOf<localValueList>},
+        {u"VALUETABLE", u"ТАБЛИЦАЗНАЧЕНИЙ", classOf<localValueTable>},
         {u"DATABASE", u"БАЗАДАННЫХ", nullptr},
         {u"TABLEDOCUMENT", u"ТАБЛИЧНЫЙДОКУМЕНТ", nullptr},
         {u"V77", u"V77", nullptr},

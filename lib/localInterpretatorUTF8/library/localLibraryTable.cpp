@@ -1,7 +1,11 @@
 #include <array>
+#include <new>
+#include <stdexcept>
 
 #include "library/localHandlers.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace localLibrary {
@@ -19,67 +23,67 @@ bool higherLibrary(localCall& call) {
 
 constexpr std::array table = std::to_array<localMethodRow>({
     // Strings
-    {u"CHR", u"СИМВОЛ", "n", nothing},
-    {u"FIND", u"НАЙТИ", "ss|n", nothing},
-    {u"FORMAT", u"ФОРМАТ", "vs", nothing},
-    {u"STRING", u"СТРОКА", "v", nothing},
-    {u"STRINGLEN", u"СТРОКАДЛИНА", "s", nothing},
-    {u"STRINGPARTFIND", u"СТРОКАЧАСТЬНАЙТИ", "ss|n", nothing},
-    {u"STRINGPARTLEFT", u"СТРОКАЧАСТЬЛЕВАЯ", "sn", nothing},
-    {u"STRINGPARTRIGHT", u"СТРОКАЧАСТЬПРАВАЯ", "sn", nothing},
-    {u"STRINGPARTREPLACE", u"СТРОКАЧАСТЬЗАМЕНИТЬ", "sss|n", nothing},
+    {u"CHR", u"СИМВОЛ", "n", chr},
+    {u"FIND", u"НАЙТИ", "ss|n", findFromOffset},
+    {u"FORMAT", u"ФОРМАТ", "vs", formatValue},
+    {u"STRING", u"СТРОКА", "v", stringOf},
+    {u"STRINGLEN", u"СТРОКАДЛИНА", "s", stringLen},
+    {u"STRINGPARTFIND", u"СТРОКАЧАСТЬНАЙТИ", "ss|n", stringPartFind},
+    {u"STRINGPARTLEFT", u"СТРОКАЧАСТЬЛЕВАЯ", "sn", stringPartLeft},
+    {u"STRINGPARTRIGHT", u"СТРОКАЧАСТЬПРАВАЯ", "sn", stringPartRight},
+    {u"STRINGPARTREPLACE", u"СТРОКАЧАСТЬЗАМЕНИТЬ", "sss|n", stringPartReplace},
     {u"STRINGSHOW", u"СТРОКАПОКАЗАТЬ", "v", higherLibrary},
-    {u"STRINGTOUPPER", u"СТРОКАВВЕРХНИЙРЕГИСТР", "s", nothing},
-    {u"UPPER", u"ВРЕГ", "s", nothing},
-    {u"STRINGTRIMALL", u"СТРОКАСОКРЛП", "s", nothing},
-    {u"STRINGTRIML", u"СТРОКАСОКРЛ", "s", nothing},
-    {u"STRINGTRIMR", u"СТРОКАСОКРП", "s", nothing},
+    {u"STRINGTOUPPER", u"СТРОКАВВЕРХНИЙРЕГИСТР", "s", stringToUpper},
+    {u"UPPER", u"ВРЕГ", "s", stringToUpper},
+    {u"STRINGTRIMALL", u"СТРОКАСОКРЛП", "s", stringTrimAll},
+    {u"STRINGTRIML", u"СТРОКАСОКРЛ", "s", stringTrimL},
+    {u"STRINGTRIMR", u"СТРОКАСОКРП", "s", stringTrimR},
     // Numbers
-    {u"ABS", u"", "n", nothing},
-    {u"INT", u"ЦЕЛ", "n", nothing},
-    {u"MAX", u"МАКС", "v+", nothing},
-    {u"MIN", u"МИН", "v+", nothing},
-    {u"NUMBER", u"ЧИСЛО", "v", nothing},
-    {u"PI", u"", "", nothing},
-    {u"RAND", u"СЛУЧАЙНОЕЧИСЛО", "", nothing},
-    {u"ROUND", u"ОКР", "n|vv", nothing},
-    {u"SQRT", u"КОРЕНЬКВАДРАТНЫЙ", "n", nothing},
+    {u"ABS", u"", "n", absoluteValue},
+    {u"INT", u"ЦЕЛ", "n", integerPart},
+    {u"MAX", u"МАКС", "v+", largest},
+    {u"MIN", u"МИН", "v+", smallest},
+    {u"NUMBER", u"ЧИСЛО", "v", numberOf},
+    {u"PI", u"", "", piConstant},
+    {u"RAND", u"СЛУЧАЙНОЕЧИСЛО", "", randomNumber},
+    {u"ROUND", u"ОКР", "n|vv", rounded},
+    {u"SQRT", u"КОРЕНЬКВАДРАТНЫЙ", "n", squareRoot},
     // Types and conversion
-    {u"IIF", u"", "bvv", nothing},
-    {u"ISEMPTYVALUE", u"ЭТОПУСТОЕЗНАЧЕНИЕ", "v", nothing},
-    {u"VALUEISEMPTY", u"ЗНАЧЕНИЕПУСТОЕ", "v", nothing},
-    {u"ISVALUELIST", u"ЭТОСПИСОКЗНАЧЕНИЙ", "v", nothing},
-    {u"ISVALUETABLE", u"ЭТОТАБЛИЦАЗНАЧЕНИЙ", "v", nothing},
-    {u"ISWINDOWS", u"", "", nothing},
-    {u"PARSEJSON", u"РАЗОБРАТЬJSON", "s", nothing},
-    {u"VALUEFROMJSON", u"ЗНАЧЕНИЕИЗJSON", "s", nothing},
-    {u"VALUETOJSON", u"ЗНАЧЕНИЕВJSON", "v", nothing},
+    {u"IIF", u"", "bvv", iif},
+    {u"ISEMPTYVALUE", u"ЭТОПУСТОЕЗНАЧЕНИЕ", "v", isEmptyValue},
+    {u"VALUEISEMPTY", u"ЗНАЧЕНИЕПУСТОЕ", "v", valueIsEmpty},
+    {u"ISVALUELIST", u"ЭТОСПИСОКЗНАЧЕНИЙ", "v", isValueList},
+    {u"ISVALUETABLE", u"ЭТОТАБЛИЦАЗНАЧЕНИЙ", "v", isValueTable},
+    {u"ISWINDOWS", u"", "", isWindows},
+    {u"PARSEJSON", u"РАЗОБРАТЬJSON", "s", parseJson},
+    {u"VALUEFROMJSON", u"ЗНАЧЕНИЕИЗJSON", "s", valueFromJson},
+    {u"VALUETOJSON", u"ЗНАЧЕНИЕВJSON", "v", valueToJson},
     {u"VALUETOSTRING", u"ЗНАЧЕНИЕВСТРОКУ", "?", nothing},
-    {u"VALUETYPEASSTRING", u"ЗНАЧЕНИЕТИППОЛУЧИТЬКАКСТРОКА", "v", nothing},
+    {u"VALUETYPEASSTRING", u"ЗНАЧЕНИЕТИППОЛУЧИТЬКАКСТРОКА", "v", valueTypeAsString},
     // Files and system
-    {u"BASE64APPENDTOFILE", u"", "ss", nothing},
-    {u"BASE64FROMFILE", u"", "s", nothing},
-    {u"BINARYPATH", u"ПРОГРАММАПУТЬ", "", nothing},
-    {u"CWD", u"КАТАЛОГРАБОЧИЙ", "|s", nothing},
+    {u"BASE64APPENDTOFILE", u"", "ss", base64AppendToFile},
+    {u"BASE64FROMFILE", u"", "s", base64FromFile},
+    {u"BINARYPATH", u"ПРОГРАММАПУТЬ", "", binaryPath},
+    {u"CWD", u"КАТАЛОГРАБОЧИЙ", "|s", cwd},
     {u"DATECHOOSEASSTRING", u"ДАТАВЫБРАТЬКАКСТРОКА", "|s", higherLibrary},
-    {u"DATETIMESYSTEMGETASSTRING", u"ДАТАВРЕМЯСИСТЕМНАЯПОЛУЧИТЬКАКСТРОКА", "", nothing},
-    {u"FILEDELETE", u"ФАЙЛУДАЛИТЬ", "s", nothing},
-    {u"FILEEXIST", u"ФАЙЛСУЩЕСТВУЕТ", "s", nothing},
-    {u"FILES", u"ФАЙЛЫ", "|ss", nothing},
-    {u"LOGWRITE", u"", "v", nothing},
-    {u"MESSAGE", u"СООБЩИТЬ", "v", nothing},
+    {u"DATETIMESYSTEMGETASSTRING", u"ДАТАВРЕМЯСИСТЕМНАЯПОЛУЧИТЬКАКСТРОКА", "", dateTimeSystemGetAsString},
+    {u"FILEDELETE", u"ФАЙЛУДАЛИТЬ", "s", fileDelete},
+    {u"FILEEXIST", u"ФАЙЛСУЩЕСТВУЕТ", "s", fileExist},
+    {u"FILES", u"ФАЙЛЫ", "|ss", files},
+    {u"LOGWRITE", u"", "v", logWriteValue},
+    {u"MESSAGE", u"СООБЩИТЬ", "v", message},
     {u"MESSAGEBOX", u"ПРЕДУПРЕЖДЕНИЕ", "s|n", higherLibrary},
-    {u"MODULELOAD", u"МОДУЛЬЗАГРУЗИТЬ", "s", nothing},
+    {u"MODULELOAD", u"МОДУЛЬЗАГРУЗИТЬ", "s", moduleLoad},
     {u"NETWORKREQUESTEXECSYNC", u"СЕТЬЗАПРОСВЫПОЛНИТЬСИНХРОННО", "ss|v", higherLibrary},
-    {u"PATHEXIST", u"ПУТЬСУЩЕСТВУЕТ", "s", nothing},
-    {u"SECONDS20000101", u"", "", nothing},
-    {u"SECONDSTHISPROCESS", u"", "", nothing},
-    {u"STRINGAPPENDTOFILE", u"СТРОКАДОБАВИТЬВФАЙЛ", "ss|s", nothing},
-    {u"STRINGFROMFILE", u"СТРОКАИЗФАЙЛА", "s", nothing},
+    {u"PATHEXIST", u"ПУТЬСУЩЕСТВУЕТ", "s", pathExist},
+    {u"SECONDS20000101", u"", "", seconds20000101},
+    {u"SECONDSTHISPROCESS", u"", "", secondsThisProcess},
+    {u"STRINGAPPENDTOFILE", u"СТРОКАДОБАВИТЬВФАЙЛ", "ss|s", stringAppendToFile},
+    {u"STRINGFROMFILE", u"СТРОКАИЗФАЙЛА", "s", stringFromFile},
     {u"USERDIR", u"ПОЛЬЗОВАТЕЛЬКАТАЛОГ", "?", nothing},
     // Objects, classes and display
-    {u"CLASSDISPLAY", u"КЛАССПОКАЗАТЬ", "s", nothing},
-    {u"CLASSESDISPLAY", u"КЛАССЫПОКАЗАТЬ", "|s", nothing},
+    {u"CLASSDISPLAY", u"КЛАССПОКАЗАТЬ", "s", classDisplay},
+    {u"CLASSESDISPLAY", u"КЛАССЫПОКАЗАТЬ", "|s", classesDisplay},
     {u"CLASSLOAD", u"КЛАССЗАГРУЗИТЬ", "s", localHandlers::classLoad},
     {u"CLASSLOADED", u"КЛАССЗАГРУЖЕН", "s", classLoaded},
     {u"COLOR", u"ЦВЕТ", "s", higherLibrary},
@@ -87,18 +91,24 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"CREATEOBJECT", u"СОЗДАТЬОБЪЕКТ", "s", createObject},
     {u"FORMEDIT", u"ФОРМАРЕДАКТИРОВАТЬ", "s", higherLibrary},
     {u"FORMOPEN", u"ФОРМАОТКРЫТЬ", "s|v", higherLibrary},
-    {u"FUNCTIONSDISPLAY", u"ФУНКЦИИПОКАЗАТЬ", "|s", nothing},
-    {u"MEMORYDISPLAY", u"ПАМЯТЬПОКАЗАТЬ", "", nothing},
-    {u"MEMORYDISPLAYDATA", u"ПАМЯТЬПОКАЗАТЬДАННЫЕ", "|n", nothing},
-    {u"MEMORYDISPLAYVARS", u"ПАМЯТЬПОКАЗАТЬПЕРЕМЕННЫЕ", "|sn", nothing},
+    {u"FUNCTIONSDISPLAY", u"ФУНКЦИИПОКАЗАТЬ", "|s", functionsDisplay},
+    {u"MEMORYDISPLAY", u"ПАМЯТЬПОКАЗАТЬ", "", memoryDisplay},
+    {u"MEMORYDISPLAYDATA", u"ПАМЯТЬПОКАЗАТЬДАННЫЕ", "|n", memoryDisplayData},
+    {u"MEMORYDISPLAYVARS", u"ПАМЯТЬПОКАЗАТЬПЕРЕМЕННЫЕ", "|sn", memoryDisplayVars},
     {u"PIXMAPASBASE64FROMFILEGET", u"", "s", higherLibrary},
     {u"PIXMAPASBASE64PARTGET", u"", "snn|nn", higherLibrary},
     {u"PIXMAPASBASE64SHOW", u"", "s", higherLibrary},
     // Developer entries
-    {u"___TEST", u"", "|s", nothing},
-    {u"___TEST__TEXTBROWSER", u"", "o", nothing},
+    {u"___TEST", u"", "|s", test},
+    {u"___TEST__TEXTBROWSER", u"", "o", testTextBrowser},
     {u"___TEST00001", u"", "s", test00001},
+    // No members, so listings leave them out, but calls reach them. The first answers the text of a
+    // value that holds a context; the other is VALUETOSTRING under a name that switches it off. Meant.
+    {u"TOSTRING", u"", "", contextToString},
+    {u"V1ALUETOSTRING", u"З1НАЧЕНИЕВСТРОКУ", "", contextToStringForTest},
 });
+
+constexpr std::size_t rowsWithoutMember = 2;
 
 std::array<localHandler, table.size()>& installed() {
     static std::array<localHandler, table.size()> handlers{};
@@ -115,10 +125,17 @@ std::size_t placeOf(const localMethodRow* row) {
     return static_cast<std::size_t>(row - table.data());
 }
 
+// A text or list that the memory cannot hold ends the call, not the process.
+bool outOfMemory(int& status, std::u16string_view function) {
+    traceLine(u"Недостаточно памяти!", localString::toUtf8(function));
+    status = localErrorTypeCODE;
+    return false;
+}
+
 }  // namespace
 
 std::span<const localMethodRow> rows() {
-    return table;
+    return std::span(table).first(table.size() - rowsWithoutMember);
 }
 
 bool call(int& status, localContextUTF8* context, std::u16string_view name,
@@ -138,7 +155,13 @@ bool call(int& status, localContextUTF8* context, std::u16string_view name,
     }
     const localHandler higher = installed()[placeOf(row)];
     localCall callFacts{status, context, context, name, *args, *result};
-    return (higher != nullptr ? higher : row->handler)(callFacts);
+    try {
+        return (higher != nullptr ? higher : row->handler)(callFacts);
+    } catch (const std::bad_alloc&) {
+        return outOfMemory(status, row->english);
+    } catch (const std::length_error&) {
+        return outOfMemory(status, row->english);
+    }
 }
 
 void install(std::u16string_view english, localHandler handler) {

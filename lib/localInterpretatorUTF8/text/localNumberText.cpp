@@ -159,7 +159,7 @@ std::u16string numberFormat(double value, std::u16string_view format) {
         const std::u16string restText = widened(std::to_string(rest));
         fraction = std::u16string(parts.decimals, u'0') + restText;
         fraction.erase(0, fraction.size() - parts.decimals);
-        if (restText.size() > parts.decimals) {
+        if (restText.size() > parts.decimals && whole < std::numeric_limits<std::int64_t>::max()) {
             ++whole;  // the fraction rounded up to 1
         }
     }

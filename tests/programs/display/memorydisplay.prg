@@ -1,0 +1,3 @@
+// Shows nothing.
+? MEMORYDISPLAY();         // expect: 1
+? ПАМЯТЬПОКАЗАТЬ();        // expect: 1

@@ -1,0 +1,3 @@
+STRINGAPPENDTOFILE("","empty.txt");
+? "["+STRINGFROMFILE("empty.txt")+"]";     // expect: []
+? FILEEXIST("empty.txt");                  // expect: ИСТИНА

@@ -1,0 +1,2 @@
+// True on every system.
+? ISWINDOWS();     // expect: ИСТИНА
