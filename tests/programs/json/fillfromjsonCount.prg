@@ -1,0 +1,2 @@
+t = CREATEOBJECT("VALUETABLE");
+t.FILLFROMJSON();                 // expect status: 31

@@ -1,0 +1,2 @@
+t = CREATEOBJECT("VALUETABLE");
+t.FILLFROMJSON(5);                // expect status: 33

@@ -1,0 +1,1 @@
+l = PARSEJSON("[]", 1);           // expect status: 31

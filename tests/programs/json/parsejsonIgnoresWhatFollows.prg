@@ -1,0 +1,2 @@
+l = PARSEJSON("[1] and anything else ]");
+? l.SIZE();                                                 // expect: 1

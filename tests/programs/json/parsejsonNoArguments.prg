@@ -1,0 +1,1 @@
+l = PARSEJSON();                  // expect status: 31

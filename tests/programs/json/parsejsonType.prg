@@ -1,0 +1,1 @@
+l = PARSEJSON(5);                 // expect status: 33

@@ -1,0 +1,2 @@
+l = CREATEOBJECT("VALUELIST");
+? l.TOJSON(1);                    // expect status: 31

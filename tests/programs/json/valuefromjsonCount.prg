@@ -1,0 +1,1 @@
+v = VALUEFROMJSON();              // expect status: 31

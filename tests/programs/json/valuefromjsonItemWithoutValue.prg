@@ -1,0 +1,1 @@
+v = VALUEFROMJSON('{"t": "OBJ", "tN": "VALUELIST", "v": [{"p": "x"}]}');      // expect status: 35

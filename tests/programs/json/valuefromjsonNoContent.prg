@@ -1,0 +1,1 @@
+v = VALUEFROMJSON('{"t": "OBJ", "tN": "VALUELIST"}');       // expect status: 35

@@ -1,0 +1,1 @@
+v = ЗНАЧЕНИЕИЗJSON(1=1);          // expect status: 33

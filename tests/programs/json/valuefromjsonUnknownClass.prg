@@ -1,0 +1,1 @@
+v = VALUEFROMJSON('{"t": "OBJ", "tN": "NOSUCHCLASS", "v": []}');      // expect status: 14

@@ -1,0 +1,2 @@
+v = VALUEFROMJSON('{"t": "UNK", "vP": "", "v": "1"}');      // expect: typeMnemo=UNK
+// expect status: 35

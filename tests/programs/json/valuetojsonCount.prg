@@ -1,0 +1,1 @@
+? VALUETOJSON();                  // expect status: 31

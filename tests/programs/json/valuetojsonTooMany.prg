@@ -1,0 +1,1 @@
+? ЗНАЧЕНИЕВJSON(1, 2);            // expect status: 31
