@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <ctime>
 
+#include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/program/localOperatorCompiled.h"
 #include "localInterpretatorUTF8/small/localRandom.h"
 #include "localInterpretatorUTF8/text/localHalt.h"
@@ -17,7 +19,8 @@ localContextUTF8* localContextUTF8::newestAlive_ = nullptr;
 namespace {
 
 std::vector<localClassSource>& startClasses() {
-    static std::vector<localClassSource> sources;
+    static std::vector<localClassSource> sources{localValueList::classDeclaration,
+                                                 localValueTable::classDeclaration};
     return sources;
 }
 

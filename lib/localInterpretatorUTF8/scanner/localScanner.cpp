@@ -1,6 +1,7 @@
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 
 #include <array>
+#include <new>
 #include <type_traits>
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -428,8 +429,8 @@ void requireContext(const localContextUTF8* context, bool onlyCheck,
 
 // Runs one rule of the grammar in the mode asked for and hands its value out in a slot.
 template <class Check, class Evaluate>
-bool scanned(Scanner& scanner, localPosition& pos, localValueDescription*& result, bool onlyCheck,
-             Check check, Evaluate evaluate) {
+bool scanned(int& status, Scanner& scanner, localPosition& pos, localValueDescription*& result,
+             bool onlyCheck, Check check, Evaluate evaluate) {
     bool done = false;
     localSlot slot = localSlot::reserve();
     if (onlyCheck) {
@@ -437,7 +438,13 @@ bool scanned(Scanner& scanner, localPosition& pos, localValueDescription*& resul
         done = check(nothing);
         slot->setVal(1.0);
     } else {
-        done = evaluate(*slot);
+        // A value that the memory cannot hold ends the expression, not the process.
+        try {
+            done = evaluate(*slot);
+        } catch (const std::bad_alloc&) {
+            traceLine(u"Недостаточно памяти!", "scanStringGetExpressionAndEvaluete");
+            status = localErrorTypeCODE;
+        }
     }
     pos = scanner.cursor.position();
     if (done) {
@@ -455,7 +462,7 @@ bool scanStringGetExpressionAndEvaluete(int& status, const std::u16string& text,
     requireContext(context, onlyCheck, u"scanStringGetExpressionAndEvaluete");
     Scanner scanner(status, text, pos, context);
     return scanned(
-        scanner, pos, result, onlyCheck,
+        status, scanner, pos, result, onlyCheck,
         [&](Nothing& cell) { return scanner.expression<Mode::check>(cell); },
         [&](localValueDescription& cell) { return scanner.expression<Mode::evaluate>(cell); });
 }
@@ -467,7 +474,7 @@ bool scanStringGetOperandAndEvaluete(int& status, const std::u16string& text, lo
     requireContext(context, onlyCheck, u"scanStringGetOperandAndEvaluete");
     Scanner scanner(status, text, pos, context);
     return scanned(
-        scanner, pos, result, onlyCheck,
+        status, scanner, pos, result, onlyCheck,
         [&](Nothing& cell) { return scanner.operand<Mode::check>(cell); },
         [&](localValueDescription& cell) { return scanner.operand<Mode::evaluate>(cell); });
 }
@@ -479,7 +486,7 @@ bool scanStringGetNameTokenAndEvaluete(int& status, const std::u16string& text,
     requireContext(context, onlyCheck, u"scanStringGetNameTokenAndEvaluete");
     Scanner scanner(status, text, pos, context);
     return scanned(
-        scanner, pos, result, onlyCheck,
+        status, scanner, pos, result, onlyCheck,
         [&](Nothing& cell) { return scanner.namePath<Mode::check>(cell); },
         [&](localValueDescription& cell) { return scanner.namePath<Mode::evaluate>(cell); });
 }

@@ -3,6 +3,8 @@
 #include <array>
 
 #include "localInterpretatorUTF8/class/localClassDeclaration.h"
+#include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 
 namespace {
@@ -12,8 +14,8 @@ std::array<localCounter, 8>& table() {
         {"localContextUTF8::counterStaticTotal", &localContextUTF8::counterStaticTotal},
         {"localClassDeclaration::counterStaticTotal", &localClassDeclaration::counterStaticTotal},
         {"localValueDescription::counterStaticTotal", &localValueDescription::counterStaticTotal},
-        {"localValueList::counterStaticTotal", nullptr},
-        {"localValueTable::counterStaticTotal", nullptr},
+        {"localValueList::counterStaticTotal", &localValueList::counterStaticTotal},
+        {"localValueTable::counterStaticTotal", &localValueTable::counterStaticTotal},
         {"localDataBase::counterStaticTotal", nullptr},
         {"localDataBaseTable::counterStaticTotal", nullptr},
         {"localDataBaseRecord::counterStaticTotal", nullptr},

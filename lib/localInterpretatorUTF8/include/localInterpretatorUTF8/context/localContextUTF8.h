@@ -163,5 +163,6 @@ bool namePatternMatches(std::u16string_view pattern, std::u16string_view name, b
 
 // Where one of the classes that every program has from the start comes from.
 using localClassSource = localClassDeclaration* (*)();
-// Adds a class to those that a new global context registers by itself.
+// Adds a class of a higher library to those that a new global context registers by itself, which are the
+// value list and the value table at first.
 void localStartClassAdd(localClassSource source);

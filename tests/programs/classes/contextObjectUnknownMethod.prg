@@ -1,0 +1,2 @@
+c = contextget();
+? c.nobody();                   // expect status: 27

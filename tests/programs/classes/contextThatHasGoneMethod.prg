@@ -1,0 +1,3 @@
+FUNCTION f(inner) RETURN contextget(); ENDFUNCTION;
+c = f(5);
+? c.abs(1);                     // expect status: 18

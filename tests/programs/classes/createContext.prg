@@ -1,0 +1,2 @@
+// A context is no registered class.
+? createobject("CONTEXT");      // expect status: 14

@@ -1,0 +1,1 @@
+? createobject("");     // expect status: 14

@@ -1,0 +1,1 @@
+? createobject("NOBODY");       // expect status: 14

@@ -1,0 +1,1 @@
+? classload("NOBODY");          // expect status: 14

@@ -1,0 +1,1 @@
+? classload();                  // expect status: 31

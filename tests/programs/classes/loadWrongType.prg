@@ -1,0 +1,1 @@
+? classload(1);                 // expect status: 33

@@ -1,0 +1,3 @@
+x = classload("TEST");
+o = createobject("TEST");
+? o.ПОЛУЧИТЬЦЕЛОЕ();            // expect status: 27

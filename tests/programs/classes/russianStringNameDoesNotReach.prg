@@ -1,0 +1,3 @@
+x = classload("TEST");
+o = createobject("TEST");
+? o.СТРОКА();                   // expect status: 27

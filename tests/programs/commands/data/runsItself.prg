@@ -1,0 +1,1 @@
+DO "data/runsItself.prg";

@@ -1,0 +1,1 @@
+DIR;                            // expect status: 37

@@ -1,0 +1,3 @@
+DIR ;                           // expect: host: showDirectory
+DIRECTORY // all of it
+;                               // expect: host: showDirectory

@@ -1,0 +1,11 @@
+x = 1;
+DISP MEMO X;
+// expect:
+// expect match: СПИСОК ПЕРЕМЕННЫХ*
+// expect match: в том числе*
+// expect match: 0 [0x*] var [X] : *
+// expect match: Accessible RAM: *
+DISP CLASS;
+// expect: СПИСОК КЛАССОВ
+// expect: СПИСОКЗНАЧЕНИЙ (VALUELIST)  - класс СписокЗначений
+// expect: ТАБЛИЦАЗНАЧЕНИЙ (VALUETABLE)  - класс ТаблицаЗначений

@@ -1,0 +1,1 @@
+QUIT;                           // expect status: 37

@@ -1,0 +1,2 @@
+// A comparison whose right side is missing.
+a.b = ;                 // expect status: 37

@@ -1,0 +1,1 @@
+/* there are none */    // expect status: 37

@@ -1,0 +1,1 @@
+WHILE 1 DO CONTINUE; ENDDO;     // expect status: 37

@@ -1,0 +1,1 @@
+ИНАЧЕ                   // expect status: 0

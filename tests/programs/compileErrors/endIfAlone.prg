@@ -1,0 +1,3 @@
+ENDIF;                  // expect status: 4
+// expect: ENDIF;                  // expect status: 4
+// expect: Непредвиденное использование зарезарвированного слова КонецЕсли (EndIf)

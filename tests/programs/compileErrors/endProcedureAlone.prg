@@ -1,0 +1,1 @@
+ENDPROCEDURE;           // expect status: 3

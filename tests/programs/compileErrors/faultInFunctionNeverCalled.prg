@@ -1,0 +1,2 @@
+FUNCTION f() x = ; ENDFUNCTION;         // expect status: 37
+? "never";

@@ -1,0 +1,1 @@
+FOR i= TO 3 DO ENDDO;           // expect status: 48

@@ -1,0 +1,1 @@
+FUNCTION f() ? 1; ENDIF;        // expect status: 46

@@ -1,0 +1,1 @@
+FUNCTION f() ? 1; ENDDO;        // expect status: 46

@@ -1,0 +1,1 @@
+ФУНКЦИЯ f()             // expect status: 46

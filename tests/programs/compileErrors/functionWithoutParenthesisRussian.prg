@@ -1,0 +1,1 @@
+ФУНКЦИЯ f RETURN 1; КОНЕЦФУНКЦИИ;       // expect status: 40

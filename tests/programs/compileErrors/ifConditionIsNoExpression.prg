@@ -1,0 +1,2 @@
+IF ) THEN x=2; ENDIF;           // expect status: 37
+// expect: ERROR!!!

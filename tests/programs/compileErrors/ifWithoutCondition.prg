@@ -1,0 +1,1 @@
+IF THEN x=2; ENDIF;             // expect status: 47

@@ -1,0 +1,1 @@
+IFF 1 THEN x=2; ENDIF;  // expect status: 37

@@ -1,0 +1,1 @@
+x;                      // expect status: 37

@@ -1,0 +1,2 @@
+// expect status: 37
+x

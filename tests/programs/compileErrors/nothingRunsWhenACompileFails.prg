@@ -1,0 +1,4 @@
+? "never";
+? ;                     // expect status: 37
+// expect: ERROR!!!
+// expect: ? ;                     // expect status: 37

@@ -1,0 +1,1 @@
+FUNCTION f("a") RETURN 1; ENDFUNCTION;  // expect status: 16

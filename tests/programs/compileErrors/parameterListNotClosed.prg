@@ -1,0 +1,2 @@
+// expect status: 16
+FUNCTION f(a,

@@ -1,0 +1,1 @@
+FUNCTION f(a=1) RETURN 1; ENDFUNCTION;  // expect status: 40

@@ -1,0 +1,1 @@
+PRINT x;                // expect status: 42

@@ -1,0 +1,1 @@
+PROCEDURE f() ? 1;      // expect status: 46

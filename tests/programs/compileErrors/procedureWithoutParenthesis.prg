@@ -1,0 +1,1 @@
+PROCEDURE f;            // expect status: 40

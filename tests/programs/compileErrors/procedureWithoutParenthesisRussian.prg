@@ -1,0 +1,1 @@
+ПРОЦЕДУРА f;            // expect status: 40

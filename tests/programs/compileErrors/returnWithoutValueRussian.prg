@@ -1,0 +1,1 @@
+ВОЗВРАТ ;               // expect status: 15

@@ -1,0 +1,1 @@
+IF 1 THEN; x=2; ENDIF;  // expect status: 37

@@ -1,0 +1,2 @@
+// expect status: 42
+x = 1

@@ -1,0 +1,1 @@
+WHILE 1 DO BREAK ENDDO; // expect status: 42

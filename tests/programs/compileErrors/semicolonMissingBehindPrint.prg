@@ -1,0 +1,2 @@
+? 1
+x = 2;                  // expect status: 42

@@ -1,0 +1,2 @@
+WHILE ;                         // expect status: 37
+// expect: ERROR!!!

@@ -1,0 +1,1 @@
+? "http://example";     // expect: http://example

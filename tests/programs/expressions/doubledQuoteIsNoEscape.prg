@@ -1,0 +1,1 @@
+? "a""b";               // expect status: 42

@@ -1,0 +1,2 @@
+a = (1=1);
+? a AND !a;     // expect status: 37

@@ -1,0 +1,1 @@
+? -(1=1);       // expect status: 50

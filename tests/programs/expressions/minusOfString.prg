@@ -1,0 +1,1 @@
+? -"a";         // expect status: 50

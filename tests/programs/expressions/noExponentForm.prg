@@ -1,0 +1,1 @@
+? 1e5;                  // expect status: 42

@@ -1,0 +1,2 @@
+b = 1=1;
+? 1 OR b;                   // expect status: 50

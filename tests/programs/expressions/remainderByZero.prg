@@ -1,0 +1,1 @@
+? 7%0;          // expect status: 21

@@ -1,0 +1,9 @@
+? ИСТИНА;               // expect: ИСТИНА
+? TRUE;                 // expect: ИСТИНА
+? true;                 // expect: ИСТИНА
+? истина;               // expect: ИСТИНА
+? Истина;               // expect: ИСТИНА
+? ЛОЖЬ;                 // expect: ЛОЖЬ
+? FALSE;                // expect: ЛОЖЬ
+? False;                // expect: ЛОЖЬ
+? ложь;                 // expect: ЛОЖЬ

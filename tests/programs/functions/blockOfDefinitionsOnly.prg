@@ -1,0 +1,4 @@
+// Definitions are no statements: a branch that holds nothing else is empty and fails.
+IF 1=1 THEN
+    FUNCTION f() RETURN 1; ENDFUNCTION;
+ENDIF;                  // expect status: 54

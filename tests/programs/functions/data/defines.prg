@@ -1,0 +1,2 @@
+FUNCTION later(x) RETURN x*10; ENDFUNCTION;
+? "defined";

@@ -1,0 +1,2 @@
+FUNCTION later(x) RETURN string(x)+" again"; ENDFUNCTION;
+? later(2);

@@ -1,0 +1,2 @@
+FUNCTION f() RETURN "second"; ENDFUNCTION;
+x = 1;

@@ -1,0 +1,2 @@
+FUNCTION f(a) RETURN a; ENDFUNCTION;
+? f();                  // expect status: 31

@@ -1,0 +1,3 @@
+FUNCTION f ( a // the first
+    , b /* */
+) RETURN a; ENDFUNCTION; // expect status: 40

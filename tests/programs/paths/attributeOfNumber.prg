@@ -1,0 +1,2 @@
+x = 5;
+? x.y;                  // expect status: 51

@@ -1,0 +1,2 @@
+x = "text";
+? x.LENGTH;             // expect status: 51

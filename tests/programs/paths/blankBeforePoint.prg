@@ -1,0 +1,2 @@
+a = 1;
+? a . b;                // expect status: 42

@@ -1,0 +1,1 @@
+? ИСТИНА.y();           // expect status: 51

@@ -1,0 +1,1 @@
+? nobody.y();           // expect status: 10

@@ -1,0 +1,3 @@
+// A path ends with its call.
+x = classload("TEST");
+? createobject("TEST").GETINT();        // expect status: 42

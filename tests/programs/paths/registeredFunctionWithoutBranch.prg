@@ -1,0 +1,1 @@
+? userdir();            // expect status: 27

@@ -1,0 +1,1 @@
+? abs();                // expect status: 31

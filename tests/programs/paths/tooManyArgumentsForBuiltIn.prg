@@ -1,0 +1,1 @@
+? abs(1, 2);            // expect status: 31

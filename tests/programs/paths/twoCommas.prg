@@ -1,0 +1,1 @@
+? max(1,,2);            // expect status: 37

@@ -1,0 +1,1 @@
+? nobody();             // expect status: 27

@@ -1,0 +1,1 @@
+? abs("1");             // expect status: 33

@@ -1,0 +1,4 @@
+? 1;                    // expect: 1
+
+
+   // the end

@@ -1,0 +1,3 @@
+? "early";
+RETURN 2;
+? "never";

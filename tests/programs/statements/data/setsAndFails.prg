@@ -1,0 +1,5 @@
+x = 10;
+y = "kept";
+? "begun";
+z = 1/0;
+? "never";

@@ -1,0 +1,2 @@
+1a = 2;
+? 1a;                   // expect status: 42

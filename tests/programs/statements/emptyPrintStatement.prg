@@ -1,0 +1,3 @@
+PRINT;
+print ;
+? 1;                    // expect: 1

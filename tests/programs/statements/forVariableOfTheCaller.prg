@@ -1,0 +1,8 @@
+// A counter that the caller has already is the caller's.
+i = "mine";
+FUNCTION f() FOR i=1 TO 2 DO x = i; ENDDO; RETURN i; ENDFUNCTION;
+? f();                  // expect: 3
+? i;                    // expect: 3
+FUNCTION g() FOR own=1 TO 2 DO x = own; ENDDO; RETURN own; ENDFUNCTION;
+? g();                  // expect: 3
+? own;                  // expect status: 10

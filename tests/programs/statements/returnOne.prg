@@ -1,0 +1,3 @@
+? "a";                  // expect: a
+RETURN 1;
+? "b";

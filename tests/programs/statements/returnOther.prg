@@ -1,0 +1,1 @@
+RETURN 2;               // expect status: 58

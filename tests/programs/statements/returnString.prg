@@ -1,0 +1,1 @@
+RETURN "1";             // expect status: 58

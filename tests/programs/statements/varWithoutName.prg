@@ -1,0 +1,1 @@
+VAR = 1;                // expect status: 37

@@ -1,0 +1,1 @@
+VAR x;                  // expect status: 37

@@ -1,0 +1,1 @@
+ПЕРЕМЕННАЯ x;           // expect status: 37

@@ -1,0 +1,3 @@
+// A body without statements fails like any empty block.
+WHILE 1 DO ENDDO;       // expect status: 54
+// expect: Ок. Ошибки отсутствуют

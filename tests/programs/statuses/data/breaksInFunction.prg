@@ -1,0 +1,2 @@
+FUNCTION f() BREAK; ENDFUNCTION;
+x = 1;

@@ -1,0 +1,2 @@
+FUNCTION f() RETURN contextget(); ENDFUNCTION;
+gone = f();
