@@ -42,6 +42,26 @@ function(korvo_program name)
     install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
+# korvo_module(NAME LIBRARY QT comps...)
+#
+# A library of the house as a file beside the programs, which a program loads when it first needs it
+# and does without until then. Nothing but the library's own objects and Qt is in it.
+function(korvo_module name library)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "QT")
+    if(NOT TARGET ${library})
+        return()
+    endif()
+    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    add_library(${name} MODULE $<TARGET_OBJECTS:${library}>)
+    list(TRANSFORM arg_QT PREPEND "Qt6::" OUTPUT_VARIABLE modules)
+    target_link_libraries(${name} PRIVATE korvo_flags ${modules})
+    set_target_properties(${name} PROPERTIES
+        PREFIX "" LINKER_LANGUAGE CXX LIBRARY_OUTPUT_DIRECTORY "${KORVO_PROGRAM_FOLDER}")
+    korvo_plain_link(${name})
+    add_dependencies(korvo_programs ${name})
+    install(TARGETS ${name} LIBRARY DESTINATION bin)
+endfunction()
+
 # korvo_samples(FOLDER): sample programs, forms, data and the manual, laid beside the programs in the
 # build tree and where they are installed. Copied, since programs started there write files; and
 # copied again only when a sample changed.

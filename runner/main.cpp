@@ -4,6 +4,7 @@
 
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localPicture/picture/localPictureInstall.h"
 #include "localRunnerOptions.h"
 #include "localRunnerPrograms.h"
 #include "localTypedLines.h"
@@ -39,6 +40,7 @@ int main(int argc, char* argv[]) {
     std::setlocale(LC_CTYPE, "");
     localStd::argv0Set(localPlatform::programPath(argv[0]));
     localStd::startDirectory();
+    localPictureInstall();
     localRunnerOptions options;
     if (!options.read(argc, argv)) {
         std::cerr << options.fault << std::endl;

@@ -1,5 +1,6 @@
 #include "localInterpretatorUTF8/file/localFile.h"
 
+#include <exception>
 #include <memory>
 
 #include "localInterpretatorUTF8/file/localStd.h"
@@ -16,6 +17,7 @@ FileHandle opened(std::u16string_view name, const char* mode) {
     return {localPlatform::openFile(name, mode), &std::fclose};
 }
 
+// False also for a file that the memory cannot hold.
 bool readBytes(std::u16string_view fileName, std::string& bytes) {
     const FileHandle file = opened(fileName, "rb");
     if (file == nullptr) {
@@ -23,8 +25,12 @@ bool readBytes(std::u16string_view fileName, std::string& bytes) {
     }
     char block[65536];
     std::size_t count = 0;
-    while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
-        bytes.append(block, count);
+    try {
+        while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
+            bytes.append(block, count);
+        }
+    } catch (const std::exception&) {
+        return false;
     }
     return std::ferror(file.get()) == 0;
 }

@@ -1,4 +1,5 @@
 #include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <pthread.h>
 #include <sys/stat.h>
@@ -258,6 +259,18 @@ bool startEditor(std::u16string_view fileName) {
     const char* const arguments[] = {
         "/bin/sh", "-c", "exec ${VISUAL:-${EDITOR:-xdg-open}} \"$1\"", "sh", path.c_str(), nullptr};
     return startDetached(arguments);
+}
+
+LibraryFunction loadLibraryFunction(std::u16string_view name, const char* function) {
+    std::string path;
+    if (!systemPath(name, path)) {
+        return nullptr;
+    }
+    // A path without a separator would be looked up among the system's libraries.
+    path = (path.find('/') == std::string::npos ? "./" : "") + path + ".so";
+    void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    return library == nullptr ? nullptr
+                              : reinterpret_cast<LibraryFunction>(dlsym(library, function));
 }
 
 }  // namespace localPlatform

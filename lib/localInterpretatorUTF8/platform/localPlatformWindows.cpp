@@ -125,4 +125,10 @@ bool startEditor(std::u16string_view fileName) {
                         systemPath(fileName)).c_str()) == 0;
 }
 
+LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name) {
+    const HMODULE library = LoadLibraryA((systemPath(path) + ".dll").c_str());
+    return library == nullptr ? nullptr
+                              : reinterpret_cast<LibraryFunction>(GetProcAddress(library, name));
+}
+
 }  // namespace localPlatform

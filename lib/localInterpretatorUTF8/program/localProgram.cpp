@@ -1,6 +1,7 @@
 #include "localInterpretatorUTF8/program/localProgram.h"
 
 #include <algorithm>
+#include <new>
 
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
@@ -69,7 +70,14 @@ bool programCompile(int& status, const std::u16string& text, localOperatorCompil
                     const char* function) {
     localMemoryManager::start();  // compiling needs values but no context
     std::uint32_t pos = 0;
-    const bool compiled = textCompile(status, text, pos, &root);
+    bool compiled = false;
+    // A program that the memory cannot hold ends its compiling, not the process.
+    try {
+        compiled = textCompile(status, text, pos, &root);
+    } catch (const std::bad_alloc&) {
+        traceLine(u"Недостаточно памяти!", function);
+        status = localErrorTypeCODE;
+    }
     if (status != localErrorTypeOK) {
         writeFault(status, text, pos, function);
         return false;

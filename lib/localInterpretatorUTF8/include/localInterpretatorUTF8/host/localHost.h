@@ -16,7 +16,7 @@
 class localHost {
 public:
     enum class Cursor { wait, arrow, restored };
-    enum class MessageKind { information, critical };
+    enum class MessageKind { information, warning, critical };
 
     virtual ~localHost() = default;
 

@@ -59,4 +59,9 @@ bool startProgram(std::u16string_view commandLine);
 // The person's text editor opens the file; nobody waits for it.
 bool startEditor(std::u16string_view fileName);
 
+// A function of a library in a file, whose path is given without the system's ending for such files. The
+// library stays loaded until the process ends. Null when there is no such library or function.
+using LibraryFunction = void (*)();
+LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name);
+
 }  // namespace localPlatform

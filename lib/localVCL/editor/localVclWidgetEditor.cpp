@@ -1,0 +1,292 @@
+#include "localVCL/editor/localVclWidgetEditor.h"
+
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFontMetrics>
+#include <QMessageBox>
+#include <QTextBlock>
+
+#include <algorithm>
+#include <memory>
+
+#include "editor/localVclWidgetEditorLineNumberArea.h"
+#include "localInterpretatorUTF8/file/localFile.h"
+#include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/text/localCharacters.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+#include "localVCL/editor/localVclPrgTextHighlighter.h"
+#include "localVCL/editor/localVclTextSaveDialog.h"
+#include "localVCL/font/localVclFont.h"
+#include "localVCL/text/localVclText.h"
+
+namespace {
+
+constexpr int fixedPitchFont = 3;
+constexpr int tabColumns = 8;
+// The size of a new editor's text, in columns and lines.
+constexpr int columnsShown = 100;
+constexpr int linesShown = 34;
+
+constexpr std::u16string_view demonstrationFileName = u"W:\\4\\test.prgS";
+constexpr std::u16string_view demonstrationText =
+    u"пол=создатьОбъект(\"Справочник.Товары\");\n"
+    u"пол.выбратьЭлементы();\n"
+    u"если 1=пол.выбран() тогда\n"
+    u"  сообщить(пол.наименование);\n"
+    u"конецЕсли;\n"
+    u"возврат 1;\n";
+
+// White paper and dark blue ink: keywords are red, comments green and strings black, so what has no
+// colour of its own differs from each of them.
+QPalette editorPalette(QPalette palette) {
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, QColor(0x00, 0x00, 0xa0));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x6c, 0xc0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    // The selection looks the same while a search dialog has the focus.
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x2a, 0x6c, 0xc0));
+    return palette;
+}
+
+// Where the dialog for a missing file starts: the folder of samples, or the one beside the program
+// where that is not there.
+QString samplesFolder() {
+    const QString samples = QStringLiteral("E:\\Work\\4\\prgTest");
+    const QString beside =
+        localVclQString(localStd::pathJoin(localStd::binaryPath(), u"prgTest"));
+    for (const QString& folder : {samples, QStringLiteral("prgTest"), beside}) {
+        if (QDir(folder).exists()) {
+            return folder;
+        }
+    }
+    return {};
+}
+
+// What the system says about a file that cannot be read.
+QString readingErrorText(const std::u16string& fileName) {
+    QFile file(localVclQString(localPlatform::normalizedPath(fileName)));
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
+}  // namespace
+
+localVclWidgetEditor::localVclWidgetEditor(std::u16string fileName, std::u16string_view text,
+                                           QWidget* parent)
+    : QPlainTextEdit(parent) {
+    build();
+    textSet(text);
+    fileNameSet(std::move(fileName));
+}
+
+localVclWidgetEditor::localVclWidgetEditor()
+    : localVclWidgetEditor(std::u16string(demonstrationFileName), demonstrationText) {
+    titleSet(QStringLiteral("test"));
+}
+
+void localVclWidgetEditor::build() {
+    lineNumberArea_ = new localVclWidgetEditorLineNumberArea(this);
+    // The font comes before what is measured in it.
+    setFont(localVclFont(fixedPitchFont));
+    lineNumberArea_->setFont(font());
+    const QFontMetrics metrics(font());
+    const int columnWidth = metrics.horizontalAdvance(u'9');
+    setTabStopDistance(tabColumns * columnWidth);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setPalette(editorPalette(palette()));
+    highlighter_ = new localVclPrgTextHighlighter(document());
+
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this,
+            &localVclWidgetEditor::highlightCurrentLine);
+    connect(this, &QPlainTextEdit::textChanged, this, &localVclWidgetEditor::textChangedSlot);
+    connect(this, &QPlainTextEdit::blockCountChanged, this,
+            &localVclWidgetEditor::updateLineNumberAreaWidth);
+    connect(this, &QPlainTextEdit::updateRequest, this,
+            &localVclWidgetEditor::updateLineNumberArea);
+    connect(document(), &QTextDocument::modificationChanged, this,
+            &localVclWidgetEditor::modifiedShow);
+    installEventFilter(this);
+
+    updateLineNumberAreaWidth(blockCount());
+    highlightCurrentLine();
+    resize(lineNumberAreaWidth() + columnsShown * columnWidth, linesShown * metrics.lineSpacing());
+}
+
+localVclWidgetEditor* localVclWidgetEditor::open(const std::u16string& fileName,
+                                                 localString::possibleCodePage codePage) {
+    auto editor = std::make_unique<localVclWidgetEditor>(fileName);
+    if (!editor->load(fileName, codePage)) {
+        return nullptr;
+    }
+    editor->openWindow();
+    return editor.release();
+}
+
+void localVclWidgetEditor::openWindow() {
+    localVclWindowParameters parameters;
+    parameters.title = windowTitle();
+    openedWindow_ = localVclWindowShow(this, parameters);
+    modifiedShow();
+}
+
+std::u16string localVclWidgetEditor::timeNow() {
+    return QDateTime::currentDateTime()
+        .toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"))
+        .toStdU16String();
+}
+
+std::u16string localVclWidgetEditor::text() const {
+    return toPlainText().toStdU16String();
+}
+
+void localVclWidgetEditor::textSet(std::u16string_view text) {
+    carriageReturns_.clear();
+    for (std::size_t i = text.find(u"\r\n"); i != std::u16string_view::npos;
+         i = text.find(u"\r\n", i + 1)) {
+        carriageReturns_.push_back(i);
+    }
+    setPlainText(localVclQString(text));
+}
+
+void localVclWidgetEditor::positionShow(std::size_t position) {
+    const auto before =
+        std::lower_bound(carriageReturns_.begin(), carriageReturns_.end(), position);
+    const auto left = static_cast<std::size_t>(before - carriageReturns_.begin());
+    const int last = document()->characterCount() - 1;
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(static_cast<int>(
+        std::min(position - left, static_cast<std::size_t>(std::max(last, 0)))));
+    setTextCursor(cursor);
+}
+
+void localVclWidgetEditor::lineShow(int line) {
+    const QTextBlock block = document()->findBlockByNumber(line - 1);
+    if (!block.isValid()) {
+        return;
+    }
+    setTextCursor(QTextCursor(block));
+    centerCursor();
+}
+
+// Files -------------------------------------------------------------------------------------------
+
+bool localVclWidgetEditor::load(const std::u16string& fileName,
+                                localString::possibleCodePage codePage) {
+    std::u16string name = fileName;
+    if (!localPlatform::pathExists(name)) {
+        name = QFileDialog::getOpenFileName(isVisible() ? this : nullptr,
+                                            QStringLiteral("Open formFile "), samplesFolder(),
+                                            QStringLiteral("*.prg *.prg"))
+                   .toStdU16String();
+        if (name.empty()) {
+            return false;
+        }
+    }
+    name = trimBoth(name);
+    std::u16string text;
+    if (!fileRead(name, text, codePage)) {
+        writeLine(u"Error reading file  [" + name + u"] " +
+                  readingErrorText(name).toStdU16String());
+        return false;
+    }
+    textSet(text);
+    fileNameSet(std::move(name));
+    return true;
+}
+
+bool localVclWidgetEditor::saveSlot() {
+    if (!fileWrite(FileWriteMode::truncate, localString::codePageUtf8, text(), fileName_)) {
+        writeLine(u"Файл не сохранён!");
+        return false;
+    }
+    document()->setModified(false);
+    return true;
+}
+
+bool localVclWidgetEditor::saveAsSlot() {
+    std::u16string chosen =
+        localVclTextSaveDialog(localString::codePageUtf8, text(), QStringLiteral("SaveAs"),
+                               QStringLiteral("*.*"), localVclQString(fileName_), this);
+    if (chosen.empty()) {
+        writeLine(u"Файл не сохранён!");
+        return false;
+    }
+    fileNameSet(std::move(chosen));
+    document()->setModified(false);
+    return true;
+}
+
+// The title
+// -----------------------------------------------------------------------------------------
+
+void localVclWidgetEditor::fileNameSet(std::u16string fileName) {
+    fileName_ = std::move(fileName);
+    titleSet(localVclQString(fileName_));
+}
+
+void localVclWidgetEditor::titleSet(const QString& title) {
+    // The place of the mark of a text that is not saved; a name that holds those signs keeps them.
+    const QString marked = QString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
+                           QLatin1String("[*]");
+    setWindowTitle(marked);
+    if (openedWindow_ != nullptr) {
+        openedWindow_->setWindowTitle(marked);
+    }
+}
+
+void localVclWidgetEditor::modifiedShow() {
+    const bool modified = document()->isModified();
+    for (QWidget* const widget : {static_cast<QWidget*>(this), openedWindow_.data()}) {
+        if (widget != nullptr && widget->isWindowModified() != modified) {
+            widget->setWindowModified(modified);
+        }
+    }
+}
+
+void localVclWidgetEditor::textChangedSlot() {
+    modifiedShow();
+}
+
+// Closing
+// -------------------------------------------------------------------------------------------
+
+bool localVclWidgetEditor::windowMayClose() {
+    if (!document()->isModified()) {
+        return true;
+    }
+    switch (closeAsk()) {
+        case CloseAnswer::save:
+            return fileName_.empty() ? saveAsSlot() : saveSlot();
+        case CloseAnswer::discard:
+            return true;
+        case CloseAnswer::cancel:
+            break;
+    }
+    return false;
+}
+
+localVclWidgetEditor::CloseAnswer localVclWidgetEditor::closeAsk() {
+    QMessageBox box(QMessageBox::Question, localVclQString(fileName_),
+                    QStringLiteral("Текст изменён и не сохранён. Сохранить его?"),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+        case QMessageBox::Save:
+            return CloseAnswer::save;
+        case QMessageBox::Discard:
+            return CloseAnswer::discard;
+        default:
+            return CloseAnswer::cancel;
+    }
+}
+
+void localVclWidgetEditor::closeEvent(QCloseEvent* event) {
+    traceLine(timeNow() + u" closeEvent", "closeEvent");
+    // The editor itself never closes; the window around it does. Meant: so a sub-window of an
+    // editor closes by the way of its MDI area.
+    event->ignore();
+}

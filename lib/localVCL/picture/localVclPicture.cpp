@@ -1,0 +1,37 @@
+#include "localVCL/picture/localVclPicture.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QDir>
+
+#include "icons/localIcons.h"
+
+QPixmap localVclPixmapFromBase64(QStringView text) {
+    QPixmap pixmap;
+    pixmap.loadFromData(QByteArray::fromBase64(text.toLatin1()));
+    return pixmap;
+}
+
+QString localVclPixmapToBase64(const QPixmap& pixmap) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    if (pixmap.isNull() || !buffer.open(QIODevice::WriteOnly) || !pixmap.save(&buffer, "PNG")) {
+        return {};
+    }
+    return QString::fromLatin1(png.toBase64());
+}
+
+QString localVclIconDirectory() {
+    const QString firstChoice = QStringLiteral("E:\\Work\\4\\lib\\icons");
+    return QDir(firstChoice).exists() ? firstChoice : QCoreApplication::applicationDirPath();
+}
+
+QPixmap localVclPixmap(const QString& fileName) {
+    const QPixmap pixmap(QDir(localVclIconDirectory()).filePath(fileName));
+    return pixmap.isNull() ? QPixmap(localIconPath(fileName)) : pixmap;
+}
+
+QIcon localVclProgramIcon() {
+    return localVclPixmap(QStringLiteral("logoKV_3232.png"));
+}
