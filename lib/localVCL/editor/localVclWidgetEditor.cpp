@@ -125,9 +125,10 @@ localVclWidgetEditor* localVclWidgetEditor::open(const std::u16string& fileName,
     return editor.release();
 }
 
-void localVclWidgetEditor::openWindow() {
+void localVclWidgetEditor::openWindow(std::optional<QPoint> place) {
     localVclWindowParameters parameters;
     parameters.title = windowTitle();
+    parameters.place = place;
     openedWindow_ = localVclWindowShow(this, parameters);
     modifiedShow();
 }

@@ -89,6 +89,9 @@ QWidget* showInMainWindow(QWidget* widget, QToolBar* bar,
     if (parameters.modal) {
         window->setWindowModality(Qt::ApplicationModal);
     }
+    if (parameters.place) {
+        window->move(*parameters.place);
+    }
     window->show();
     widget->setFocus(Qt::OtherFocusReason);
     return window;

@@ -14,6 +14,7 @@
 #include <QTextDocument>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,8 +42,9 @@ public:
     // has reported, or nothing was chosen. The window owns the editor and goes when it is closed.
     static localVclWidgetEditor* open(const std::u16string& fileName,
                                       localString::possibleCodePage codePage);
-    // Shows the editor by the window operation. The window owns it from then on.
-    void openWindow();
+    // Shows the editor by the window operation, at a place on the screen or where the system chooses. The
+    // window owns it from then on.
+    void openWindow(std::optional<QPoint> place = std::nullopt);
 
     const std::u16string& fileName() const { return fileName_; }
     const localVclPrgTextHighlighter& highlighter() const { return *highlighter_; }

@@ -5,7 +5,10 @@
 #pragma once
 
 #include <QList>
+#include <QPoint>
 #include <QString>
+
+#include <optional>
 
 class QAction;
 class QMdiArea;
@@ -25,6 +28,7 @@ struct localVclWindowParameters {
     QString title;
     bool modal = false;
     QString iconAsBase64;  // the program's own icon when it holds no picture
+    std::optional<QPoint> place = {};  // of the frame's corner on the screen; else the system chooses
 };
 
 // The parameters in a list: "title" (string), "modal" (number, above 0 means modal), "iconAsBase64"

@@ -1,0 +1,261 @@
+#include "localConsole/console/localConsole.h"
+
+#include <QAbstractEventDispatcher>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include "console/localPaintRate.h"
+#include "localConsole/debug/MyThread.h"
+#include "localInterpretatorUTF8/command/localCommand.h"
+#include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localNumberText.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+
+namespace {
+
+constexpr int keptBlocks = 100000;
+// Laying out a block costs the square of its length, so a longer line of output is put as several.
+constexpr qsizetype longestBlock = 4000;
+
+void insertOutput(QTextCursor& cursor, const QString& text, const QTextCharFormat& format) {
+    qsizetype at = 0;
+    while (text.size() - at > longestBlock) {
+        const bool splitsPair = text[at + longestBlock].isLowSurrogate();
+        const qsizetype length = splitsPair ? longestBlock - 1 : longestBlock;
+        cursor.insertText(text.mid(at, length), format);
+        cursor.insertBlock();
+        at += length;
+    }
+    cursor.insertText(text.mid(at), format);
+}
+
+// Puts off the closing of a window while a command of the console in it runs: the program's own event
+// loops would delete the console under the command's feet.
+class localCloseLater : public QObject {
+public:
+    explicit localCloseLater(QWidget* window) : window_(window) { window->installEventFilter(this); }
+
+    // Closes the window now if that was asked meanwhile.
+    ~localCloseLater() override {
+        if (asked_ && !window_.isNull()) {
+            QMetaObject::invokeMethod(window_.data(), &QWidget::close, Qt::QueuedConnection);
+        }
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Close) {
+            return false;
+        }
+        asked_ = true;
+        event->ignore();
+        return true;
+    }
+
+private:
+    QPointer<QWidget> window_;
+    bool asked_ = false;
+};
+
+// Keys pressed while a command ran wait in the window system; taken while the console is still busy, they
+// are dropped. Each call of the event loop brings them one step nearer, so one is not enough.
+void takeWaitingInput() {
+    constexpr int steps = 3;
+    constexpr int longest = 100;  // milliseconds, should something else keep the event loop at work
+    QElapsedTimer timer;
+    timer.start();
+    for (int idle = 0; idle < steps && timer.elapsed() < longest;) {
+        const bool worked = QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+        idle = worked ? 0 : idle + 1;
+    }
+}
+
+QPalette greenOnBlack() {
+    QPalette palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        palette.setColor(group, QPalette::Base, Qt::black);
+        palette.setColor(group, QPalette::Text, Qt::green);
+    }
+    return palette;
+}
+
+}  // namespace
+
+localConsole::localConsole(QWidget* parent)
+    : QPlainTextEdit(parent),
+      context_(std::make_unique<localContextUTF8>()),
+      promptNormal_("localInterpretatorUTF8> "),
+      paintRate_(std::make_unique<localPaintRate>(this)) {
+    promptLength_ = static_cast<int>(promptNormal_.size());
+    promptWait_ = QString("Wait!!!").leftJustified(promptLength_, ' ', true);
+    prompt_ = promptNormal_;
+    inputFormat_.setForeground(Qt::green);
+    outputFormat_.setForeground(Qt::gray);
+
+    setMaximumBlockCount(keptBlocks);
+    setUndoRedoEnabled(false);
+    // Text comes by keys; a composed one would pass by the limits of the input line.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    putPrompt(PromptPlace::currentBlock);
+
+    setPalette(greenOnBlack());
+    // Where the application's font is missing, a fixed pitch replaces it here: listings stand in columns.
+    QFont ownFont = font();
+    ownFont.setFamilies({ownFont.family(), "monospace"});
+    ownFont.setStyleHint(QFont::Monospace);
+    ownFont.setPointSize(12);
+    setFont(ownFont);
+    const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
+    resize(qRound(desktop.width() / 2.0), qRound(desktop.height() * 0.75));
+    keyCommandsFill();
+    settingsApply();
+}
+
+localConsole::~localConsole() {
+    // A program under DEBUG ends where it stands: it lives in the context. Its window goes, too.
+    thread_.reset();
+    if (editor_ != nullptr) {
+        editor_->window()->close();
+    }
+    // Objects of the language may write when they go: this console is still whole enough to take it.
+    context_.reset();
+}
+
+void localConsole::cmdExec(const QString& command) {
+    const std::u16string text = command.toStdU16String();
+    putPrompt(PromptPlace::newBlock);
+    if (text.empty()) {
+        putOutputLine({});
+        return;
+    }
+    if (text.size() == 1) {
+        putOutputLine("Syntax ERROR: " + command);
+        return;
+    }
+    if (act(command) == localErrorTypeQUIT) {
+        writeLine(u"Good bye!");
+        window()->close();
+    }
+    setBusy(false);
+    putPrompt(PromptPlace::newBlock);
+}
+
+int localConsole::act(const QString& command) {
+    const localCloseLater closeLater(window());
+    // What a program under DEBUG is doing must not cross with the command.
+    if (thread_ != nullptr) {
+        thread_->waitForStop();
+    }
+    if (command.startsWith("# ")) {
+        inlineCalculation(command);  // and on with the same command, in which the language sees nothing
+    }
+    const std::u16string text = command.toStdU16String();
+    int status = localErrorTypeOK;
+    std::uint32_t pos = 0;
+    if (!ownCommand(text)) {
+        localInterpretatorUTF8::scanStringGetOperatorAndExec(status, text, pos, context_.get(),
+                                                             false);
+    }
+    takeWaitingInput();
+    return status;
+}
+
+void localConsole::settingsApply() {
+    writeLine(u"[" + settings_.text() + u"]");
+    const auto width = settings_.number(u"width");
+    const auto height = settings_.number(u"height");
+    if (!width || !height) {
+        return;
+    }
+    traceLine(u"width: " + numberToString(*width) + u" height: " + numberToString(*height),
+              "initFromFile");
+    resize(*width, *height);
+}
+
+std::optional<QPoint> localConsole::windowPlace() const {
+    const auto x = settings_.number(u"x");
+    const auto y = settings_.number(u"y");
+    if (!x && !y) {
+        return std::nullopt;
+    }
+    return QPoint(x.value_or(window()->x()), y.value_or(window()->y()));
+}
+
+void localConsole::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (!settings_.geometrySave({window()->pos(), size()})) {
+        traceLine(u"Error!!! Не удалось записать файл настроек!", "focusOutEvent");
+    }
+}
+
+void localConsole::putPrompt(PromptPlace place, const QString& text) {
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.beginEditBlock();
+    if (place == PromptPlace::newBlock) {
+        cursor.insertBlock();
+    }
+    cursor.insertText(text.isEmpty() ? prompt_ : text, inputFormat_);
+    cursor.endEditBlock();
+    scrollToEnd(cursor);
+}
+
+void localConsole::putOutputLine(const QString& text) {
+    if (busy_) {
+        removeInputLine();
+    }
+    prompt_ = promptNormal_;
+    busy_ = false;
+    putResult(text);
+    putPrompt(PromptPlace::newBlock);
+}
+
+void localConsole::putResult(const QString& text) {
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.beginEditBlock();
+    cursor.insertBlock();
+    insertOutput(cursor, text, outputFormat_);
+    cursor.endEditBlock();
+}
+
+void localConsole::setBusy(bool on) {
+    if (!on && busy_) {
+        removeInputLine();
+    }
+    prompt_ = on ? promptWait_ : promptNormal_;
+    busy_ = on;
+}
+
+void localConsole::COUT(const QString& text) {
+    const QString typed = document()->lastBlock().text().mid(promptLength_).trimmed();
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    insertOutput(cursor, text, outputFormat_);
+    cursor.insertBlock();
+    cursor.insertText(prompt_ + typed, inputFormat_);
+    cursor.endEditBlock();
+    scrollToEnd(cursor);
+    paintRate_->changed();
+}
+
+void localConsole::removeInputLine() {
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+}
+
+void localConsole::scrollToEnd(const QTextCursor& end) {
+    setTextCursor(end);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}

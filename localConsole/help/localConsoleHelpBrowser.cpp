@@ -1,0 +1,68 @@
+#include "localConsole/help/localConsoleHelpBrowser.h"
+
+#include "localVCL/picture/localVclPicture.h"
+#include "localVCL/text/localVclText.h"
+
+namespace {
+
+constexpr const char16_t* notFound = u"Страница не найдена!";
+
+// A link's text with everything readable: a key may hold letters that a URL writes as numbers.
+QString textOf(const QUrl& link) {
+    if (link.hasFragment() && link.toString(QUrl::RemoveFragment).isEmpty()) {
+        return u'#' + link.fragment(QUrl::FullyDecoded);
+    }
+    return link.toString();
+}
+
+}  // namespace
+
+localConsoleHelpBrowser::localConsoleHelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+    setWindowIcon(localVclProgramIcon());
+    connect(this, &QTextBrowser::anchorClicked, this, &localConsoleHelpBrowser::onAnchorClicked);
+    setOpenLinks(false);
+    setHtml(localVclQString(notFound));
+}
+
+bool localConsoleHelpBrowser::parseHelpFromJson(const std::u16string& text) {
+    return pages_.parseHelpFromJson(text);
+}
+
+void localConsoleHelpBrowser::pageShow(const std::u16string& html, const std::u16string& pageKey) {
+    setHtml(localVclQString(html));
+    if (history_.empty() || history_.back() != pageKey) {
+        history_.push_back(pageKey);
+    }
+}
+
+void localConsoleHelpBrowser::goTo(const std::u16string& pageKey) {
+    const std::u16string html = pages_.page(pageKey);
+    if (!html.empty()) {
+        pageShow(html, pageKey);
+        return;
+    }
+    pageShow(notFound, u"#404");
+    pageShow(pages_.allPages(), u"#allPages");
+    activateWindow();
+}
+
+void localConsoleHelpBrowser::onAnchorClicked(const QUrl& link) {
+    const QString text = textOf(link);
+    goTo(pages_.keyOfLink(localVclText(text)));
+}
+
+void localConsoleHelpBrowser::keyPressEvent(QKeyEvent* event) {
+    constexpr std::size_t fewestForBack = 4;
+    if (event->key() != Qt::Key_Backspace) {
+        QTextBrowser::keyPressEvent(event);
+        return;
+    }
+    // The page before the present one is taken off too: going there enters it again. From the list
+    // that stands for a missing page the way back leads to that page, and so to the list. Meant.
+    if (history_.size() >= fewestForBack) {
+        history_.pop_back();
+        const std::u16string before = history_.back();
+        history_.pop_back();
+        goTo(before);
+    }
+}

@@ -1,0 +1,31 @@
+// The commands that were typed, kept over restarts in a file of one UTF-8 line each, which only grows.
+//
+// A line reaches the file in one write, so that a process killed at any moment leaves it whole or absent.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class localConsoleHistory {
+public:
+    // Reads the file that the search for files finds. When there is none, a box says so, and the first
+    // command makes one in the working directory.
+    localConsoleHistory();
+
+    // Enters a command unless it is the last one already, and stands behind the last.
+    void enter(const QString& command);
+
+    // The line before the place in the history, and goes there. Nothing at the oldest.
+    std::optional<QString> back();
+    // Goes one place on and gives the line after that one, empty when there is none. Nothing at the end.
+    std::optional<QString> forward();
+
+    const QStringList& lines() const { return lines_; }
+
+private:
+    QString fileName_;
+    QStringList lines_;
+    qsizetype index_ = 0;  // equal to the size when no line of the history is shown
+};

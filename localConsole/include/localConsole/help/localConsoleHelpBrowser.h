@@ -1,0 +1,42 @@
+// The window in which the manual is read: pages of a book, links between them, the way back.
+#pragma once
+
+#include <QKeyEvent>
+#include <QTextBrowser>
+#include <QUrl>
+#include <string>
+#include <vector>
+
+#include "localConsole/help/localHelpPages.h"
+
+class localConsoleHelpBrowser : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    // An empty book: the browser says that there is no page.
+    explicit localConsoleHelpBrowser(QWidget* parent = nullptr);
+
+    // Makes the pages of a JSON text, or of the items of a list, in the place of those before;
+    // nothing else is shown until goTo(). False when the text is no JSON, with the pages as they
+    // were.
+    bool parseHelpFromJson(const std::u16string& text);
+    void pagesFromList(const localValueList& list) { pages_.pagesFromList(list); }
+
+    // Shows a page by key; what is no page ends on the list of all pages, "#allPages".
+    void goTo(const std::u16string& pageKey);
+
+    // Keys of the pages that were shown, the present one last.
+    const std::vector<std::u16string>& history() const { return history_; }
+
+public slots:
+    void onAnchorClicked(const QUrl& link);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void pageShow(const std::u16string& html, const std::u16string& pageKey);
+
+    localHelpPages pages_;
+    std::vector<std::u16string> history_;
+};

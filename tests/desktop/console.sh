@@ -1,0 +1,69 @@
+#!/bin/bash
+# The console as a person uses it: keys in, files and the screen out.
+source "$KORVO_SOURCE/tests/desktop/support/display.sh"
+
+cat >slow.prg <<'END'
+RUN "touch running";
+FOR i = 1 TO 20000 DO
+? i;
+ENDDO;
+RUN "touch finished";
+END
+cat >file.prg <<'END'
+// Squares for the picture, and a file for the test.
+FOR i = 1 TO 4 DO
+? i*i;
+ENDDO;
+путь = "made-by-program";
+RUN "touch " + путь;
+END
+cat >argument.prg <<'END'
+RUN "touch made-by-argument";
+END
+
+startDisplay
+# A file named on the command line is not run, and the toolkit gets no words either.
+startKorvo argument.prg -platform nonsense
+
+enter '? 2+3*4'
+enter 'имя = "Корво Ёё"'
+enter '? имя'
+enter 'RUN "echo " + имя + " > name.txt"'
+expectFile name.txt 'Корво Ёё'
+
+enter 'DO "file.prg"'
+expectFile made-by-program ''
+enter '? путь'
+enter 'q'
+typeText 'half a command, пол'
+sleep 0.5
+screenshot console "$console"
+xdotool key --delay 15 --repeat 19 BackSpace
+
+# The cursor stops at the prompt, so the line is whole whatever was pressed too often.
+typeText 'RUX "echo kept > edited.txt"'
+xdotool key --delay 15 Home Left Left BackSpace Right Right Delete
+typeText 'N'
+xdotool key --delay 15 Return
+expectFile edited.txt kept
+
+# A click into the output does not take the keys away from the input line.
+typeText 'RUN "echo kept '
+xdotool mousemove --window "$console" 60 60 click 1
+enter '> clicked.txt"'
+expectFile clicked.txt kept
+
+# Keys that are pressed while a program runs are lost.
+enter 'DO "slow.prg"'
+expectFile running ''
+enter 'RUN "touch lost"'
+[[ ! -e finished ]] || fail "the slow program was too fast for this test"
+waitFor 120 test -e finished || fail "the slow program did not end"
+enter 'RUN "echo kept > after.txt"'
+expectFile after.txt kept
+[[ ! -e lost ]] || fail "a line typed while a program ran was acted on"
+
+[[ ! -e made-by-argument ]] || fail "a program named on the command line was run"
+
+enter 'QUIT'
+expectEnd

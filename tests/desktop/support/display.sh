@@ -1,0 +1,100 @@
+# A display of its own for a test of the built window program, and what to do on it.
+# For bash, sourced; the script's folder is $KORVO_SOURCE/tests/desktop.
+
+ownProcesses=()
+
+fail() {
+    echo "FAILED: $*" >&2
+    if [[ -n ${DISPLAY:-} ]]; then
+        import -window root "$KORVO_SCREENSHOTS/failed-$(basename "$0" .sh).png" 2>/dev/null
+    fi
+    exit 1
+}
+
+endOwnProcesses() {
+    local process
+    for process in "${ownProcesses[@]}"; do
+        kill "$process" 2>/dev/null
+        wait "$process" 2>/dev/null
+    done
+}
+trap endOwnProcesses EXIT
+
+# waitFor SECONDS COMMAND...: runs the command again and again until it succeeds. Fails after the time.
+waitFor() {
+    local end=$((SECONDS + $1))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < end)) || return 1
+        sleep 0.05
+    done
+}
+
+# A screen of 1280 by 960, a window manager, and a keyboard with both alphabets.
+startDisplay() {
+    # The server takes a number that is free and tells it. It must not begin anew when a client goes.
+    Xvfb -displayfd 3 -noreset -screen 0 1280x960x24 -nolisten tcp 3>display.number 2>xvfb.log &
+    ownProcesses=("$!" "${ownProcesses[@]}")
+    waitFor 30 test -s display.number || fail "no display"
+    DISPLAY=":$(tr -d '\n' <display.number)"
+    export DISPLAY
+    setxkbmap -layout us,ru || fail "no keyboard"
+    openbox >openbox.log 2>&1 &
+    ownProcesses=("$!" "${ownProcesses[@]}")
+    waitFor 30 windowManagerStands || fail "no window manager"
+}
+
+windowManagerStands() {
+    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+
+# startKorvo ARGUMENTS...: the console is on the screen and has the keyboard; its process is $korvo.
+startKorvo() {
+    # Without a history a box would stand before the console.
+    : >>console_history.log
+    "$KORVO_BIN_DIR/korvo" "$@" >korvo.out 2>korvo.err &
+    korvo=$!
+    ownProcesses=("$korvo" "${ownProcesses[@]}")
+    waitFor 60 xdotool search --onlyvisible --name '^console\(\)$' || fail "no console"
+    console="$(xdotool search --onlyvisible --name '^console\(\)$' | head -1)"
+    waitFor 30 consoleIsActive || fail "the console did not get the keyboard"
+}
+
+consoleIsActive() {
+    [[ "$(xdotool getactivewindow)" == "$console" ]]
+}
+
+typeText() {
+    xdotool type --delay 15 -- "$1"
+}
+
+# enter LINE: types a line and the Return key.
+enter() {
+    typeText "$1"
+    xdotool key --delay 15 Return
+}
+
+# expectFile NAME TEXT: the file comes to hold the text.
+expectFile() {
+    waitFor 30 fileHolds "$1" "$2" || fail "$1: wanted [$2], got [$(cat "$1" 2>&1)]"
+}
+
+fileHolds() {
+    [[ -f $1 && "$(<"$1")" == "$2" ]]
+}
+
+# expectEnd: the program ends by itself, with exit code 0.
+expectEnd() {
+    waitFor 30 hasEnded || fail "korvo did not end"
+    local code=0
+    wait "$korvo" || code=$?
+    [[ $code == 0 ]] || fail "korvo ended with exit code $code: $(cat korvo.err)"
+}
+
+hasEnded() {
+    ! kill -0 "$korvo"
+}
+
+screenshot() {
+    import -window "${2:-root}" "$KORVO_SCREENSHOTS/$1.png" || fail "no screenshot $1"
+}

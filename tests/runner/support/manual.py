@@ -1,0 +1,340 @@
+#!/usr/bin/env python3
+"""The manual: its form, its links, its completeness, and its examples, which are run as programs.
+
+manual.py BOOK.json, with the terminal program in the environment variable KORVO_RUN.
+Writes how many pages and examples there are, and a line for each fault; fails on a fault.
+"""
+import html
+import json
+import os
+import re
+import subprocess
+import sys
+import tempfile
+from concurrent.futures import ThreadPoolExecutor
+
+FRONT_PAGES = ["main", "console", "remarks"]
+METHOD_MEMBERS = ["nameEn", "nameRu", "syntax", "parameter", "returnValue", "description",
+                  "example", "seeAlso"]
+TABLES = ["parameter", "seeAlso"]
+PREFORMATTED = ["syntax", "example"]
+NEVER_EMPTY = ["nameEn", "nameRu", "syntax", "description", "example"]
+LISTED_CLASSES = ["VALUELIST", "VALUETABLE", "TEST"]
+
+# The words of the language, in step with the statement compiler and the expression scanner.
+KEYWORDS = """
+    IF ЕСЛИ THEN ТОГДА ELSEIF ИНАЧЕЕСЛИ ELSE ИНАЧЕ ENDIF КОНЕЦЕСЛИ
+    WHILE ПОКА FOR ДЛЯ TO ПО DO ЦИКЛ ENDDO КОНЕЦЦИКЛА BREAK ПРЕРВАТЬ
+    FUNCTION ФУНКЦИЯ PROCEDURE ПРОЦЕДУРА ENDFUNCTION КОНЕЦФУНКЦИИ ENDPROCEDURE КОНЕЦПРОЦЕДУРЫ
+    RETURN ВОЗВРАТ PRINT VAR ПЕРЕМЕННАЯ""".split()
+EXPRESSION_WORDS = "AND И OR ИЛИ NOT НЕ TRUE ИСТИНА FALSE ЛОЖЬ".split()
+
+# The one-line commands, in step with the language's own and those of the console window.
+COMMANDS = ["?", "#", "DO", "HELP", "CLEAR MEMORY", "DIR", "DIRECTORY", "DISPLAY FUNCTION",
+            "DISPLAY MEMORY", "DISPLAY CLASS", "DISPLAY CONTEXT", "MODIFY COMMAND", "EDIT COMMAND",
+            "LOAD CLASS", "LOAD CONTEXT", "QUIT", "EXIT", "RUN", "MANUAL", "DEBUG", "STEP", "TRACE",
+            "TRYING", "C1LEAR MEMORY", "D1ISPLAY MEMORY", "D1ISPLAY CLASS", "E" + 40 * "1" +
+            "DIT COMMAND"]
+
+# Functions that work and stand in no listing.
+HIDDEN_FUNCTIONS = {"TOSTRING", "V1ALUETOSTRING", "З1НАЧЕНИЕВСТРОКУ"}
+
+COMMAND_CLASS = "Команды"
+NEEDS_PERSON = "// нужен человек"
+PATIENCE = 50  # seconds for one example, even with sanitizers
+
+PAIRED_TAGS = ["B", "I", "P", "PRE", "UL", "LI", "H2", "TABLE", "TR", "TH", "TD"]
+TAG = re.compile(rf"</?(?:{'|'.join(PAIRED_TAGS)})>|<BR/?>|<a href=\"#[^\"<>]*\">|</a>", re.I)
+ENTITY = re.compile(r"&(?:lt|gt|amp|quot|nbsp);")
+LINK = re.compile(r'href="#([^"]*)"')
+TRACE_TAIL = re.compile(r" func: \S* file: \S+ line: \d+\s*$")
+PRINTING = re.compile(r"\s*(?:\?|(?:MESSAGE|СООБЩИТЬ)\()", re.I)
+
+faults = []
+
+
+def fault(place, words):
+    faults.append(f"{place}: {words}")
+
+
+# --- form
+
+def withoutDuplicates(members):
+    table = dict(members)
+    if len(table) != len(members):
+        keys = [key for key, _ in members]
+        raise ValueError("duplicate keys " + " ".join({k for k in keys if keys.count(k) > 1}))
+    return table
+
+
+def checkLayout(text, book):
+    """One member a line, so that a change of a text is a change of one line."""
+    wanted = json.dumps(book, ensure_ascii=False, indent=2) + "\n"
+    for number, lines in enumerate(zip(wanted.split("\n"), text.split("\n")), 1):
+        if lines[0] != lines[1]:
+            return fault(f"line {number}", f"laid out otherwise than {lines[0][:100]!r}")
+    if wanted != text:
+        fault("file", "does not end with one line end")
+
+
+def checkLetters(text):
+    for number, line in enumerate(text.split("\n"), 1):
+        for letter in sorted(set(line)):
+            if not (" " <= letter <= "~" or "А" <= letter <= "я" or letter in "Ёё"):
+                fault(f"line {number}", f"letter {letter!r} (U+{ord(letter):04X})")
+
+
+def checkText(place, text, tagsAllowed=True):
+    if not isinstance(text, str):
+        return fault(place, "no string")
+    rest = ENTITY.sub("", text)
+    if tagsAllowed:
+        rest = TAG.sub("", rest)
+    for letter in "<&" if tagsAllowed else "<>&":
+        if letter in rest:
+            at = rest.index(letter)
+            near = rest[max(0, at - 20):at + 20]
+            fault(place, f"bare {letter!r} or an unknown tag near {near!r}")
+    for tag in PAIRED_TAGS + ["a"]:
+        opened = len(re.findall(rf"<{tag}[ >]", text, re.I))
+        if opened != len(re.findall(rf"</{tag}>", text, re.I)):
+            fault(place, f"<{tag}> without its end or an end without <{tag}>")
+
+
+def checkMembers(place, table, names):
+    if not isinstance(table, dict) or list(table) != names:
+        fault(place, "members must be, in this order, " + " ".join(names))
+        return False
+    return True
+
+
+def checkMethod(place, method):
+    if not checkMembers(place, method, METHOD_MEMBERS):
+        return
+    for name, value in method.items():
+        at = f"{place}:{name}"
+        if name not in TABLES:
+            checkText(at, value, name not in PREFORMATTED)
+            if name in NEVER_EMPTY and not str(value).strip():
+                fault(at, "empty")
+        elif not isinstance(value, dict):
+            fault(at, "no table")
+        else:
+            for key, text in value.items():
+                checkText(f"{at}:{key}", key, False)
+                checkText(f"{at}:{key}", text)
+
+
+def checkForm(book):
+    if not checkMembers("book", book, FRONT_PAGES + ["class"]):
+        return
+    for name in FRONT_PAGES:
+        checkText(name, book[name])
+    for className, members in book["class"].items():
+        if not checkMembers(className, members, ["text", "method"]):
+            continue
+        checkText(f"{className}:text", members["text"])
+        for ident, method in members["method"].items():
+            place = f"{className}:{ident}"
+            if re.search(r'[#"<>&:]', ident):
+                fault(place, "such an identifier can be no link's target")
+            checkMethod(place, method)
+
+
+# --- pages and links
+
+def methodsOf(book):
+    for className, members in book["class"].items():
+        for ident, method in members["method"].items():
+            yield className, ident, method
+
+
+def pagesOf(book):
+    pages = FRONT_PAGES + [f"class:{className}" for className in book["class"]]
+    return pages + [f"class:{name}:method:{ident}" for name, ident, _ in methodsOf(book)]
+
+
+def textsOf(book):
+    for name in FRONT_PAGES:
+        yield name, book[name]
+    for className, members in book["class"].items():
+        yield className, members["text"]
+    for className, ident, method in methodsOf(book):
+        for text in [method["returnValue"], method["description"], *method["parameter"].values()]:
+            yield f"{className}:{ident}", text
+
+
+def checkLinks(book):
+    targets = set(pagesOf(book)) | {"allPages"}
+    links = [(place, target) for place, text in textsOf(book) for target in LINK.findall(text)]
+    for className, ident, method in methodsOf(book):
+        links += [(f"{className}:{ident}", target) for target in method["seeAlso"]]
+    for place, target in links:
+        if target not in targets:
+            fault(place, f"link to a missing page {target!r}")
+
+
+# --- completeness
+
+def run(*arguments, folder=None, typed=""):
+    """Exit code and lines of a run of the terminal program; None when it does not end."""
+    try:
+        done = subprocess.run([os.environ["KORVO_RUN"], *arguments], cwd=folder,
+                              input=typed.encode(), stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, timeout=PATIENCE)
+    except subprocess.TimeoutExpired:
+        return None, []
+    return done.returncode, done.stdout.decode("utf-8", "replace").split("\n")[:-1]
+
+
+def listed(pattern, *typedLines):
+    _, lines = run(typed="\n".join(typedLines) + "\n")
+    return {found[1] for found in map(re.compile(pattern).match, lines) if found}
+
+
+def checkNames(place, book, className, registered):
+    """Both ways: each registered name has a page, each page names something registered."""
+    methods = book["class"][className]["method"]
+    named = {method[name] for method in methods.values() for name in ("nameEn", "nameRu")}
+    if not registered:
+        fault(place, "nothing is listed")
+    for name in sorted(registered - named):
+        fault(place, f"{name} has no page")
+    for name in sorted(named - registered):
+        fault(place, f"a page for {name}, which does not exist")
+
+
+def checkCompleteness(book):
+    functions = listed(r"\d+ (\w+)\(\)", "DISPLAY FUNCTION")
+    checkNames("functions", book, "CONTEXT", functions and functions | HIDDEN_FUNCTIONS)
+    for className in LISTED_CLASSES:
+        typed = ["LOAD CLASS TEST", f'CLASSDISPLAY("{className}")']
+        checkNames(className, book, className, listed(r"\.\.\. \d+ (\w+)\(\) : метод", *typed))
+        for name in listed(r"\.\.\. \d+ (\w+) : аттрибут", *typed):
+            if not re.search(rf"\b{name}\b", book["class"][className]["text"]):
+                fault(className, f"the attribute {name} is not described")
+    for className, words in (("Операторы", KEYWORDS), ("Выражения", EXPRESSION_WORDS)):
+        methods = book["class"][className]["method"].values()
+        named = {word for method in methods
+                 for word in f"{method['nameEn']} {method['nameRu']}".split()}
+        for word in words:
+            if word not in named:
+                fault(className, f"{word} has no page")
+    syntaxes = [line for method in book["class"][COMMAND_CLASS]["method"].values()
+                for line in html.unescape(method["syntax"]).split("\n")]
+    for command in COMMANDS:
+        if not any(f"{line} ".startswith(command + " ") for line in syntaxes):
+            fault(COMMAND_CLASS, f"{command} has no page")
+
+
+# --- examples
+
+def commentStart(line):
+    """Where the comment of a line begins; its length when there is none."""
+    quote = ""
+    for at, letter in enumerate(line):
+        if quote:
+            quote = "" if letter == quote else quote
+        elif letter in "\"'":
+            quote = letter
+        elif line.startswith("//", at):
+            return at
+    return len(line)
+
+
+def toldLines(example):
+    """What an example tells that it prints: the comments behind printing statements and those that
+    begin with an arrow."""
+    told = []
+    for line in example.split("\n"):
+        at = commentStart(line)
+        arrow = re.fullmatch(r"\s*// -> ?(.*)", line)
+        if arrow:
+            told.append(arrow[1])
+        elif at < len(line) and PRINTING.match(line[:at]):
+            told.append(line[at + 2:])
+    return [line.strip() for line in told]
+
+
+def isCommandLine(line):
+    """Whether a typed line begins with a command, cut short as allowed, or assigns."""
+    words = line.upper().split()
+    for command in COMMANDS:
+        wanted = command.split()
+        if len(words) >= len(wanted) and all(
+                word == full or len(word) >= 4 and full.startswith(word)
+                for word, full in zip(words, wanted)):
+            return True
+    return re.match(r"\w+ *=", line) is not None
+
+
+def checkTypedForPerson(place, example):
+    for line in example.split("\n")[1:]:
+        if not isCommandLine(line):
+            fault(place, f"no command: {line}")
+
+
+def runExample(className, ident, method):
+    place = f"{className}:{ident}:example"
+    example = html.unescape(method["example"])
+    needsPerson = example.split("\n")[0] == NEEDS_PERSON
+    typed = ""
+    if className == COMMAND_CLASS:
+        if needsPerson:
+            return checkTypedForPerson(place, example)
+        typed = example + "\n"
+    with tempfile.TemporaryDirectory(dir=".", prefix="example.") as folder:
+        work = os.path.join(folder, "work")
+        os.mkdir(work)
+        program = os.path.join(os.path.abspath(folder), "example.prg")
+        with open(program, "w", encoding="utf-8") as file:
+            file.write(example)
+        arguments = [] if typed else ["--check", program] if needsPerson else [program]
+        code, lines = run(*arguments, folder=work, typed=typed)
+        left = os.listdir(work)
+    output = [TRACE_TAIL.sub("", line).strip() for line in lines]
+    told = [] if needsPerson else toldLines(example)
+    if code is None:
+        fault(place, "does not end")
+    elif code != 0:
+        fault(place, f"ends with {code}\n    " + "\n    ".join(output))
+    elif told and told != output:
+        fault(place, "\n    ".join(["tells", *told]) + "\n  " + "\n    ".join(["prints", *output]))
+    if left:
+        fault(place, "leaves " + " ".join(sorted(left)))
+
+
+def checkBook(text):
+    """The checks from the outside in: each relies on those before it."""
+    try:
+        book = json.loads(text, object_pairs_hook=withoutDuplicates)
+    except ValueError as error:
+        return fault("book", error)
+    checkLayout(text, book)
+    checkLetters(text)
+    checkForm(book)
+    if faults:
+        return
+    checkLinks(book)
+    checkCompleteness(book)
+    methods = list(methodsOf(book))
+    with ThreadPoolExecutor(2) as workers:
+        list(workers.map(lambda page: runExample(*page), methods))
+    examples = [html.unescape(method["example"]) for _, _, method in methods]
+    complete = [example for example in examples if not example.startswith(NEEDS_PERSON)]
+    telling = [example for example in complete if toldLines(example)]
+    print(f"{len(pagesOf(book))} pages; {len(examples)} examples: {len(complete)} run, "
+          f"{len(telling)} of them telling what they print, "
+          f"{len(examples) - len(complete)} for a person only checked")
+
+
+def main(fileName):
+    with open(fileName, encoding="utf-8") as file:
+        checkBook(file.read())
+    for line in faults:
+        print(line)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))

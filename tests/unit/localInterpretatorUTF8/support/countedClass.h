@@ -1,0 +1,48 @@
+// A class of the language for tests: its objects count the cells that hold them, hold one more
+// value, and count themselves, so that a test sees who is alive.
+#pragma once
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+#include "localInterpretatorUTF8/class/localMethodTable.h"
+#include "localInterpretatorUTF8/value/localSlot.h"
+
+class countedObject {
+public:
+    inline static std::int64_t alive = 0;
+
+    countedObject() { ++alive; }
+    ~countedObject() { --alive; }
+    countedObject(const countedObject&) = delete;
+    countedObject& operator=(const countedObject&) = delete;
+
+    std::int64_t links = 0;
+    localValueDescription held;
+};
+
+inline constexpr localMethodRow countedMethods[] = {
+    {u"TOSTRING", u"СТРОКА", "", [](localCall& call) { return call.give(u"counted"); }},
+    {u"FAIL", u"ОТКАЗ", "", [](localCall& call) { return call.fail(localErrorTypeOUTOFRANGE); }},
+    {u"ADD", u"СЛОЖИТЬ", "nn",
+     [](localCall& call) { return call.give(call.number(0) + call.number(1)); }},
+};
+
+inline constexpr localClassTable countedTable = {
+    .nameEng = u"COUNTED",
+    .nameRus = u"СЧИТАЕМЫЙ",
+    .description = u"класс для проверок",
+    .nativeName = u"countedObject",
+    .construct = []() -> void* { return new countedObject; },
+    .destroy = [](void* object) { delete static_cast<countedObject*>(object); },
+    .link = [](void** object, std::int64_t delta) -> std::int64_t {
+        return static_cast<countedObject*>(*object)->links += delta;
+    },
+    .methods = countedMethods,
+    .attributes = {},
+};
+
+inline localClassDeclaration* countedClass() {
+    return localTableClass<countedTable>();
+}

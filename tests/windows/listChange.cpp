@@ -1,0 +1,247 @@
+// The dialog that changes the values of a value list.
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <clocale>
+#include <memory>
+
+#include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/value/localMemoryManager.h"
+#include "localVCL/dialog/localVclListOfValuesChange.h"
+#include "screenshot.h"
+#include "windowTest.h"
+
+namespace {
+
+// A value that holds a new list: a name, a price, a box to tick, a list inside.
+std::unique_ptr<localValueDescription> goods() {
+    auto holder = std::make_unique<localValueDescription>();
+    auto* const list = new localValueList;
+    holder->objectBind(list, localValueList::classDeclaration());
+    list->valueAppend(localText(u"Гвозди <100 мм>"), u"Товар");
+    list->valueAppend(0.1, u"Цена & скидка");
+    list->itemAppend(u"В наличии").setBoolean(true);
+    list->valueAppend(new localValueList, u"Поставщики");
+    return holder;
+}
+
+// A dialog on a list, with its fields at hand.
+struct shownDialog {
+    explicit shownDialog(const localValueDescription& value)
+        : list(localValueList::of(value)), dialog(QStringLiteral("Изменение"), value) {
+        dialog.show();
+        lines = dialog.findChildren<QLineEdit*>();
+    }
+    void press(const QString& text) {
+        for (QPushButton* const button : dialog.findChildren<QPushButton*>()) {
+            if (button->text() == text) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                return;
+            }
+        }
+        QFAIL(qPrintable("no button " + text));
+    }
+    void retype(int line, const QString& text) {
+        lines[line]->setFocus();
+        lines[line]->selectAll();
+        // keyClicks() knows Latin letters only.
+        for (const QChar letter : text) {
+            QTest::sendKeyEvent(QTest::Click, lines[line], Qt::Key_unknown, letter, {});
+        }
+    }
+    QString textAt(std::size_t position) const {
+        return QString::fromStdU16String(list->valueAt(position).toString().string());
+    }
+
+    localValueList* list;
+    DemoDialogForListOfValuesChange dialog;
+    QList<QLineEdit*> lines;
+    outputCapture output;
+};
+
+}  // namespace
+
+class listChange : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        std::setlocale(LC_NUMERIC, "C");
+        localMemoryManager::start();
+    }
+
+    void hasARowForEachItem() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        QStringList captions;
+        for (QLabel* const label : shown.dialog.findChildren<QLabel*>()) {
+            captions.append(label->text());
+        }
+        QCOMPARE(captions, QStringList({"<B>Товар</B>", "<B>Цена &amp; скидка</B>",
+                                        "<B>В наличии</B>", "<B>Поставщики</B>"}));
+        QCOMPARE(shown.lines.size(), 3);
+        QCOMPARE(shown.lines[0]->text(), QStringLiteral("Гвозди <100 мм>"));
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("0.1"));
+        QVERIFY(shown.lines[2]->text().startsWith("Список значений [0]"));
+        QVERIFY(shown.lines[2]->isReadOnly());
+        QVERIFY(shown.dialog.findChild<QCheckBox*>()->isChecked());
+        QVERIFY(QTest::qWaitForWindowActive(&shown.dialog));
+        QVERIFY(shown.lines[0]->hasFocus());
+        QVERIFY(saveScreenshot(shown.dialog, QStringLiteral("listChange")));
+    }
+
+    void applyWritesAndStays() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        QSignalSpy applied(&shown.dialog, &DemoDialogForListOfValuesChange::applied);
+        QSignalSpy applied1(&shown.dialog, &DemoDialogForListOfValuesChange::applied1);
+        shown.retype(0, "Болты");
+        shown.retype(1, "12.75");
+        QTest::mouseClick(shown.dialog.findChild<QCheckBox*>(), Qt::LeftButton, {}, QPoint(8, 8));
+        QCOMPARE(shown.textAt(1), QStringLiteral("Гвозди <100 мм>"));
+        shown.press("Apply");
+        QVERIFY(shown.dialog.isVisible());
+        QCOMPARE(shown.textAt(1), QStringLiteral("Болты"));
+        QCOMPARE(int(shown.list->valueAt(1).type), int(localValueTypeSTRING));
+        QCOMPARE(shown.list->valueAt(2).num, 12.75);
+        QCOMPARE(int(shown.list->valueAt(2).type), int(localValueTypeNUMBER));
+        QCOMPARE(shown.textAt(3), QStringLiteral("ЛОЖЬ"));
+        QCOMPARE(applied.count(), 1);
+        QCOMPARE(applied1.count(), 1);
+        QCOMPARE(applied1[0][0].value<DemoDialogForListOfValuesChange*>(), &shown.dialog);
+        QVERIFY2(shown.output.text().contains(QStringLiteral(" func: ") +
+                                              DemoDialogForListOfValuesChange::NUME + " "),
+                 qPrintable(shown.output.text()));
+    }
+
+    void okWritesAndAccepts() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        QSignalSpy applied(&shown.dialog, &DemoDialogForListOfValuesChange::applied);
+        QSignalSpy accepted(&shown.dialog, &QDialog::accepted);
+        shown.retype(1, "-3");
+        shown.press("OK");
+        QVERIFY(!shown.dialog.isVisible());
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(applied.count(), 1);
+        QCOMPARE(shown.list->valueAt(2).num, -3.0);
+    }
+
+    void enterInAFieldIsOk() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(0, "Шурупы");
+        QTest::keyClick(shown.lines[0], Qt::Key_Return);
+        QVERIFY(!shown.dialog.isVisible());
+        QCOMPARE(shown.dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(shown.textAt(1), QStringLiteral("Шурупы"));
+    }
+
+    void cancelAndEscapeWriteNothing_data() {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("button") << false;
+        QTest::newRow("key") << true;
+    }
+    void cancelAndEscapeWriteNothing() {
+        QFETCH(bool, byKey);
+        const auto value = goods();
+        shownDialog shown(*value);
+        QSignalSpy applied(&shown.dialog, &DemoDialogForListOfValuesChange::applied);
+        QSignalSpy rejected(&shown.dialog, &QDialog::rejected);
+        shown.retype(0, "Шурупы");
+        if (byKey) {
+            QTest::keyClick(shown.lines[0], Qt::Key_Escape);
+        } else {
+            shown.press("Cancel");
+        }
+        QVERIFY(!shown.dialog.isVisible());
+        QCOMPARE(rejected.count(), 1);
+        QCOMPARE(applied.count(), 0);
+        QCOMPARE(shown.textAt(1), QStringLiteral("Гвозди <100 мм>"));
+    }
+
+    void onlyChangedFieldsAreWritten() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(1, "5");
+        shown.press("Apply");
+        // A program changes the list behind the dialog.
+        shown.list->valueAt(2).setVal(6.0);
+        shown.list->valueAt(1).setVal(localText(u"Клей"));
+        shown.list->valueAt(3).setVal(8.0);
+        shown.press("OK");
+        QCOMPARE(shown.textAt(1), QStringLiteral("Клей"));
+        QCOMPARE(shown.list->valueAt(2).num, 6.0);
+        QCOMPARE(shown.list->valueAt(3).num, 8.0);
+    }
+
+    void numberFieldTakesNumbersOnly() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(1, "1a2,3.4");
+        QCOMPARE(shown.lines[1]->text().contains('a'), false);
+        shown.press("Apply");
+        QCOMPARE(shown.list->valueAt(2).num, shown.lines[1]->text().remove(',').toDouble());
+        shown.lines[1]->clear();
+        QTest::keyClicks(shown.lines[1], "-");
+        shown.press("OK");
+        QCOMPARE(shown.list->valueAt(2).num, 0.0);
+    }
+
+    void listThatBecameShorterIsWrittenAsFarAsItGoes() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(0, "Болты");
+        shown.retype(1, "2");
+        QVERIFY(shown.list->valueRemove(2));
+        QVERIFY(shown.list->valueRemove(2));
+        QVERIFY(shown.list->valueRemove(2));
+        shown.press("OK");
+        QCOMPARE(shown.list->size(), std::size_t(1));
+        QCOMPARE(shown.textAt(1), QStringLiteral("Болты"));
+    }
+
+    void dialogKeepsTheListAlive() {
+        const auto before = localValueList::counterStaticTotal;
+        {
+            auto value = goods();
+            shownDialog shown(*value);
+            value.reset();
+            QCOMPARE(localValueList::counterStaticTotal, before + 2);
+            shown.retype(0, "Болты");
+            shown.press("OK");
+            QCOMPARE(shown.textAt(1), QStringLiteral("Болты"));
+        }
+        QCOMPARE(localValueList::counterStaticTotal, before);
+    }
+
+    void longListScrolls() {
+        localValueDescription value;
+        auto* const list = new localValueList;
+        value.objectBind(list, localValueList::classDeclaration());
+        for (int i = 0; i < 200; ++i) {
+            list->valueAppend(double(i), localText(u"Ряд"));
+        }
+        shownDialog shown(value);
+        QVERIFY(shown.dialog.height() < 800);
+        shown.retype(199, "-1");
+        shown.press("OK");
+        QCOMPARE(list->valueAt(200).num, -1.0);
+    }
+
+    void otherValuesHaveNoRows() {
+        localValueDescription number;
+        shownDialog shown(number);
+        QVERIFY(shown.lines.isEmpty());
+        shown.press("OK");
+        QVERIFY(!shown.dialog.isVisible());
+    }
+};
+
+QTEST_MAIN(listChange)
+#include "listChange.moc"
