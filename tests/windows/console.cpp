@@ -485,6 +485,19 @@ private slots:
         QCOMPARE(all.last(), prompt);
     }
 
+    void piecesOfALongLineHoldWholeCharacters() {
+        // One of the two lines has a piece's end in the middle of such a character.
+        for (const QString& start : {QString(), QString("a")}) {
+            shown().clear();
+            const QString longLine = start + QString("\U0001F600").repeated(5000);
+            std::cout << longLine.toStdString() << std::endl;
+            QVERIFY(lines().size() > 2);
+            for (const QString& line : lines()) {
+                QVERIFY(line.isEmpty() || !line.front().isLowSurrogate());
+            }
+        }
+    }
+
     void oldLinesGoWhenThereAreTooMany() {
         shown().hide();
         for (int i = 0; i < 100050; ++i) {

@@ -184,9 +184,9 @@ private slots:
         const auto value = goods();
         shownDialog shown(*value);
         shown.retype(1, "1a2,3.4");
-        QCOMPARE(shown.lines[1]->text().contains('a'), false);
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("123.4"));
         shown.press("Apply");
-        QCOMPARE(shown.list->valueAt(2).num, shown.lines[1]->text().remove(',').toDouble());
+        QCOMPARE(shown.list->valueAt(2).num, 123.4);
         shown.lines[1]->clear();
         QTest::keyClicks(shown.lines[1], "-");
         shown.press("OK");

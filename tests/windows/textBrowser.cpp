@@ -22,16 +22,6 @@ using browserTest::clickLink;
 
 namespace {
 
-// Acts on a typed line; gives the status.
-int act(const QString& line) {
-    static localContextUTF8 context;
-    int status = localErrorTypeOK;
-    std::uint32_t pos = 0;
-    localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line.toStdU16String(), pos,
-                                                         &context, false);
-    return status;
-}
-
 QList<localMainWindow*> windows() {
     QList<localMainWindow*> found;
     for (QWidget* const window : QApplication::topLevelWidgets()) {
@@ -218,6 +208,16 @@ private slots:
     }
 
 private:
+    // Acts on a typed line; gives the status.
+    int act(const QString& line) {
+        int status = localErrorTypeOK;
+        std::uint32_t pos = 0;
+        localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line.toStdU16String(), pos,
+                                                            &context_, false);
+        return status;
+    }
+
+    localContextUTF8 context_;
     QTemporaryDir folder_;
     localVclHost host_;
 };

@@ -86,7 +86,7 @@ void localOperatorCompiled::dump(int indent) const {
             writeLine(start + u"? (" + text + u") ; ");
             break;
         case localCompiledOperatorTypeRENURN:
-            writeLine(start + u"localCompiledOperatorTypeRENURN " + text + u"; ");
+            writeLine(start + u"localCompiledOperatorTypeRENURN ");
             break;
         case localCompiledOperatorTypeWHILE:
             traceLine(start + u"while " + text + u" do", "COUT");

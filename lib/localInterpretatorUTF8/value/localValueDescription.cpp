@@ -27,17 +27,22 @@ struct Doomed {
     localClassDeclaration* objClass;
     void* pointer;
 };
-thread_local std::vector<Doomed> doomed;
-thread_local bool destroying = false;
+
+// Never destroyed: values of static duration go after it.
+std::vector<Doomed>& doomed() {
+    static auto* const objects = new std::vector<Doomed>;
+    return *objects;
+}
+bool destroying = false;
 
 void destroyDoomed() {
     destroying = true;
-    for (std::size_t i = 0; i < doomed.size(); ++i) {
-        Doomed object = doomed[i];
+    for (std::size_t i = 0; i < doomed().size(); ++i) {
+        Doomed object = doomed()[i];
         int status = localErrorTypeOK;
         object.objClass->destroyObject(status, object.pointer);
     }
-    doomed.clear();
+    doomed().clear();
     destroying = false;
 }
 
@@ -69,7 +74,7 @@ void localValueDescription::dropLink() {
         return;
     }
     type = localValueTypeNUMBER;
-    doomed.push_back({objClass, pointer});
+    doomed().push_back({objClass, pointer});
     if (!destroying) {
         destroyDoomed();
     }

@@ -45,9 +45,8 @@ DemoDialogForListOfValuesChange::DemoDialogForListOfValuesChange(const QString& 
     if (const localValueList* const values = localValueList::of(list_)) {
         for (const localValueListItem& item : values->items()) {
             QWidget* const field = fieldOf(item.value, writes_.emplace_back());
-            QLabel* const caption = captionOf(item.presentation);
-            caption->setBuddy(field);
-            form->addRow(caption, field);
+            // No buddy: it would make "&" in a caption a sign for a key.
+            form->addRow(captionOf(item.presentation), field);
             first = first == nullptr ? field : first;
         }
     }
@@ -102,7 +101,9 @@ QWidget* DemoDialogForListOfValuesChange::lineOf(const QString& text, bool isNum
     line->setMinimumWidth(fieldWidth);
     if (isNumber) {
         auto* const validator = new QDoubleValidator(line);
-        validator->setLocale(QLocale::c());
+        QLocale plain = QLocale::c();
+        plain.setNumberOptions(QLocale::RejectGroupSeparator);
+        validator->setLocale(plain);
         line->setValidator(validator);
         line->setAlignment(Qt::AlignRight);
     }

@@ -1,5 +1,5 @@
-// A small book of help pages. It is kept apart from the test's classes: Qt's meta object compiler does not
-// get past such a text.
+// A small book of help pages. It is kept apart from the test's classes: Qt's meta object compiler
+// does not get past such a text.
 #pragma once
 
 inline constexpr const char* helpBook = R"json({
