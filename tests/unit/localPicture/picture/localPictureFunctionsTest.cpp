@@ -21,10 +21,12 @@
 
 namespace {
 
+#ifdef KORVO_PICTURE_MODULE
 std::u16string binFolder() {
     const char* const folder = std::getenv("KORVO_BIN_DIR");
     return folder == nullptr ? u"." : localString::fromUtf8(folder);
 }
+#endif
 
 struct outcome {
     int status;
