@@ -359,10 +359,10 @@ TEST_F(compilerTest, nestingTooDeepIsRefused) {
 
 TEST_F(compilerTest, deepBlocksThatFitAreCompiled) {
     std::string text;
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < 500; ++i) {
         text += "WHILE 1 DO ";
     }
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < 500; ++i) {
         text += "ENDDO; ";
     }
     EXPECT_TRUE(compile(text).done);

@@ -679,7 +679,7 @@ TEST_F(scannerTest, aHundredThousandParenthesesAreRefusedOrRead) {
 TEST_F(scannerTest, deepConditionalsAndCallsAreRefused) {
     std::string conditional;
     std::string calls;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 1000000; ++i) {
         conditional += "1?";
         calls += "f(";
     }
