@@ -33,7 +33,9 @@ bool localProcess::trace(int& status, const std::u16string& text, localContextUT
         return false;
     }
     traceLine(u"trace СТАРТ!!!!!!: ", functionName);
-    editor_->positionShow(root.operators.front().pos);
+    if (editor_ != nullptr) {  // the line above has let the window close
+        editor_->positionShow(root.operators.front().pos);
+    }
     traceLine(u"СТАРТ!!!!!!: ", functionName);
     localDebugVariablePut(*context, u"thisProcess", this);
     writeLine(context->varDisplay(u"thisProcess"));

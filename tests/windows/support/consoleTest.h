@@ -1,0 +1,171 @@
+// What the tests of the console share: a folder of their own, a console on the screen with the standard
+// output stream led to it, keys, and a host that records.
+#pragma once
+
+#include <QtTest>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextBlock>
+
+#include <clocale>
+#include <iostream>
+#include <memory>
+
+#include "localConsole/console/localConsole.h"
+#include "localConsole/console/localCoutBuffer.h"
+#include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/value/localMemoryManager.h"
+#include "localVCL/host/localVclHost.h"
+#include "localVCL/library/localVclLibrary.h"
+#include "localVCL/text/localVclText.h"
+#include "localVCL/window/localMainWindow.h"
+
+namespace consoleTest {
+
+inline const QString prompt = "localInterpretatorUTF8> ";
+
+// The program's own host, but boxes and the listing of a folder are recorded and not shown.
+class recordingHost : public localVclHost {
+public:
+    void messageBox(MessageKind kind, std::u16string_view title, std::u16string_view text) override {
+        kinds.push_back(kind);
+        boxes.append(localVclQString(title) + "|" + localVclQString(text));
+    }
+    // The process ends behind this, with its lines in a console that nobody sees.
+    void haltBox(std::u16string_view title, std::u16string_view text) override {
+        std::cerr << localString::toUtf8(title) << ' ' << localString::toUtf8(text) << std::endl;
+    }
+    void showDirectory() override { ++directories; }
+
+    QStringList boxes;
+    std::vector<MessageKind> kinds;
+    int directories = 0;
+};
+
+inline void write(const QString& name, const QByteArray& bytes) {
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+inline QByteArray read(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+// A text of JSON, in which double quotes are written as single ones: Qt's meta object compiler does not
+// get past raw strings.
+inline QByteArray json(QByteArray text) {
+    return text.replace('\'', '"');
+}
+
+// A line of diagnosis without its tail.
+inline QString withoutTail(const QString& line) {
+    return line.left(line.indexOf(" func: "));
+}
+
+// Keys as a keyboard sends them, Russian letters included.
+inline void type(QWidget& widget, const QString& text) {
+    for (const QChar letter : text) {
+        QTest::sendKeyEvent(QTest::Click, &widget, static_cast<Qt::Key>(letter.toUpper().unicode()),
+                            QString(letter), Qt::NoModifier, 0);
+    }
+}
+
+// Each test has an empty folder as the working directory, in which the process counts as started, and no
+// console yet.
+class test : public QObject {
+    Q_OBJECT
+
+protected:
+    QTemporaryDir folder_;
+    recordingHost host_;
+    std::unique_ptr<localCoutBuffer> buffer_;
+    std::unique_ptr<localConsole> console_;
+    std::streambuf* before_ = nullptr;
+    QStringList output_;   // what was written since start(), line by line
+    QStringList starting_;  // what the making of the console wrote
+
+    // The console is on the screen and has the keyboard. Ends the one before.
+    void start() {
+        end();
+        buffer_ = std::make_unique<localCoutBuffer>();
+        connect(buffer_.get(), &localCoutBuffer::COUT, this,
+                [this](const QString& line) { output_.append(line); });
+        before_ = std::cout.rdbuf(buffer_.get());
+        console_ = std::make_unique<localConsole>();
+        connect(buffer_.get(), &localCoutBuffer::COUT, console_.get(), &localConsole::COUT);
+        starting_ = std::exchange(output_, {});
+        console_->show();
+        QVERIFY(QTest::qWaitForWindowActive(console_.get()));
+    }
+
+    void end() {
+        if (buffer_ == nullptr) {
+            return;
+        }
+        console_.reset();
+        // The context of the manual stands below that of the first console, which has just gone.
+        qApp->setProperty("localGlobalContext", QVariant());
+        // Lines of a thread may still be on their way.
+        QCoreApplication::sendPostedEvents();
+        std::cout.rdbuf(before_);
+        buffer_.reset();
+    }
+
+    localConsole& shown() { return *console_; }
+    QStringList lines() { return shown().toPlainText().split('\n'); }
+    QString inputLine() { return shown().document()->lastBlock().text(); }
+    QStringList takeOutput() { return std::exchange(output_, {}); }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(&shown(), key, modifiers);
+    }
+    void enter(const QString& text) {
+        type(shown(), text);
+        key(Qt::Key_Return);
+    }
+    // Types a command and gives what it wrote.
+    QStringList outputOf(const QString& command) {
+        takeOutput();
+        enter(command);
+        return takeOutput();
+    }
+
+private slots:
+    void initTestCase() {
+        std::setlocale(LC_NUMERIC, "C");
+        localMemoryManager::start();
+        localVclLibraryInstall();
+        QVERIFY(QDir::setCurrent(folder_.path()));
+        localStd::startDirectory();
+    }
+
+protected slots:
+    void init() {
+        localHost::install(&host_);
+        host_.boxes.clear();
+        host_.kinds.clear();
+        host_.directories = 0;
+        QDir(folder_.path()).removeRecursively();
+        QVERIFY(QDir().mkpath(folder_.path()));
+        QVERIFY(QDir::setCurrent(folder_.path()));
+        output_.clear();
+    }
+    void cleanup() {
+        end();
+        localHost::install(nullptr);
+        for (QWidget* const widget : QApplication::topLevelWidgets()) {
+            if (qobject_cast<localMainWindow*>(widget) != nullptr) {
+                delete widget;
+            }
+        }
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+    }
+};
+
+}  // namespace consoleTest
