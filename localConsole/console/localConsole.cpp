@@ -188,6 +188,15 @@ std::optional<QPoint> localConsole::windowPlace() const {
 
 void localConsole::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
+    settingsSave();
+}
+
+void localConsole::settingsSave() {
+    // The settings are a list of the language, and its slots belong to the worker while that runs.
+    settingsWait_ = thread_ != nullptr && thread_->isWorking();
+    if (settingsWait_) {
+        return;
+    }
     if (!settings_.geometrySave({window()->pos(), size()})) {
         traceLine(u"Error!!! Не удалось записать файл настроек!", "focusOutEvent");
     }

@@ -209,12 +209,23 @@ void localConsole::commandDebug(const std::u16string& text) {
         return;
     }
     // Two programs at once would share the context: the one under way ends where it stands.
-    thread_.reset();
+    if (thread_ != nullptr) {
+        thread_->endProgram();
+        // Its last news point into the tree that goes with it.
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
     thread_ = std::make_unique<MyThread>(program, context_.get());
     connect(thread_.get(), &MyThread::toConsole, this, &localConsole::fromThread);
     connect(thread_.get(), &MyThread::toConsoleAsQString, this,
             &localConsole::fromThreadAsQString);
     connect(thread_.get(), &MyThread::operChanged, this, &localConsole::operChangedSlot);
+    const auto saveWaiting = [this] {
+        if (settingsWait_) {
+            settingsSave();
+        }
+    };
+    connect(thread_.get(), &MyThread::stopped, this, saveWaiting);
+    connect(thread_.get(), &QThread::finished, this, saveWaiting);
     connect(this, &localConsole::commandToThread, thread_.get(), &MyThread::fromConsole);
     editor_ = localDebugEditorShow(fileName, program);
     thread_->start(QThread::InheritPriority);

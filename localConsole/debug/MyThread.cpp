@@ -100,7 +100,7 @@ void MyThread::waitForStop() {
     QEventLoop wait;
     connect(this, &MyThread::stopped, &wait, &QEventLoop::quit);
     connect(this, &QThread::finished, &wait, &QEventLoop::quit);
-    while (isRunning() && !atStop_) {
+    while (isWorking()) {
         wait.exec(QEventLoop::ExcludeUserInputEvents);
     }
 }

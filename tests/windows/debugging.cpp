@@ -179,6 +179,22 @@ private slots:
         QCOMPARE(shown().editor()->textCursor().positionInBlock(), 0);
     }
 
+    void geometryIsSavedWhenTheWorkerHasStopped() {
+        write("slow.prg", "n = 0;\nWHILE n<20000 DO\nn = n+1;\nENDDO;\n");
+        debug("DO \"slow.prg\";\nb = n;\n");
+        QTRY_VERIFY(QFile::exists("localConsole.ini"));
+        QVERIFY(QFile::remove("localConsole.ini"));
+        shown().thread()->fromConsole(u"STEP");
+        QVERIFY(shown().thread()->isWorking());
+        QFocusEvent lost(QEvent::FocusOut);
+        QCoreApplication::sendEvent(&shown(), &lost);
+        // The list of settings takes slots, which are the worker's now.
+        QVERIFY(!QFile::exists("localConsole.ini"));
+        stop();
+        QTRY_VERIFY(QFile::exists("localConsole.ini"));
+        QVERIFY(!shown().thread()->isFinished());
+    }
+
     // --- commands at a stop
 
     void contextIsLiveAtAStop() {

@@ -76,7 +76,7 @@ public slots:
     void operChangedSlot(const localOperatorCompiled* node);
 
 protected:
-    // Writes the window's geometry into the settings.
+    // Writes the window's geometry into the settings, now or as soon as a program under DEBUG stops.
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -97,6 +97,7 @@ private:
     void tryExample();
 
     void settingsApply();
+    void settingsSave();
     void keyCommandsFill();
     // Runs what a function key stands for. False when the key is none, or has no command.
     bool functionKey(const QKeyEvent& event);
@@ -122,6 +123,7 @@ private:
     QTextCharFormat outputFormat_;
     std::unique_ptr<localPaintRate> paintRate_;
     localConsoleSettings settings_;
+    bool settingsWait_ = false;  // to be saved when the program under DEBUG stops
     localConsoleHistory history_;
     std::array<QString, 12> keyCommands_;
     QPointer<localVclWidgetEditor> editor_;

@@ -38,6 +38,9 @@ public:
     static bool execute(int& status, localContextUTF8* context, const localOperatorCompiled& node,
                         const localArguments& args, localValueDescription*& result);
 
+    // Whether the worker has the language for itself: it runs and stands at no stop. Once false it stays so
+    // until the window's thread lets the worker go on.
+    bool isWorking() const { return isRunning() && !atStop_; }
     // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile.
     void waitForStop();
     // Makes the program end at its present stop, and waits for the worker.
