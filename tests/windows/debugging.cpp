@@ -180,7 +180,8 @@ private slots:
     }
 
     void geometryIsSavedWhenTheWorkerHasStopped() {
-        write("slow.prg", "n = 0;\nWHILE n<20000 DO\nn = n+1;\nENDDO;\n");
+        // The wait cursor of a DO keeps the worker at work until this thread takes events again.
+        write("slow.prg", "n = 0;\n");
         debug("DO \"slow.prg\";\nb = n;\n");
         QTRY_VERIFY(QFile::exists("localConsole.ini"));
         QVERIFY(QFile::remove("localConsole.ini"));
@@ -360,9 +361,13 @@ private slots:
         write("endless.prg", "i = 0;\nWHILE i<2 DO\nk = 1;\nENDDO;\n");
         enter("DEBUG endless.prg");
         MyThread* const thread = shown().thread();
-        connect(thread, &MyThread::stopped, thread, [thread] { thread->fromConsole(u"STEP"); });
+        int stops = 0;
+        connect(thread, &MyThread::stopped, thread, [thread, &stops] {
+            ++stops;
+            thread->fromConsole(u"STEP");
+        });
         thread->fromConsole(u"STEP");
-        QTRY_COMPARE(variable(u"k"), QString("1"));
+        QTRY_VERIFY(stops > 20);
         end();
         QVERIFY(console_ == nullptr);
     }
