@@ -8,8 +8,47 @@
 #include "localVCL/text/localVclText.h"
 
 namespace {
+
 constexpr const char16_t* historyFileName = u"console_history.log";
+
+// The system takes a killed process out of a write only where it goes from one page of the file to the
+// next. So a last line that has no end and stops just there is a piece; any other was left by a program
+// that ends no last line, and is whole.
+bool isPiece(const QByteArray& lastLine, qint64 fileSize) {
+    constexpr qint64 page = 4096;  // bytes; larger pages are multiples of it
+    return fileSize % page == 0 && !lastLine.endsWith('\n');
 }
+
+// How much of a file that ends with a piece the whole lines take; all of it where it cannot be read.
+qint64 sizeWithoutPiece(QFile& file) {
+    file.seek(0);
+    const QByteArray bytes = file.readAll();
+    return bytes.size() == file.size() ? bytes.lastIndexOf('\n') + 1 : file.size();
+}
+
+// Nothing of the line stays in the file when there is no room for all of it.
+void append(const QString& fileName, QByteArray line) {
+    QFile file(fileName);
+    // Without a buffer, so that the line is one write; behind what another console has written meanwhile.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
+        return;
+    }
+    qint64 size = file.size();
+    if (size > 0 && file.seek(size - 1)) {
+        const QByteArray last = file.read(1);
+        if (isPiece(last, size)) {
+            size = sizeWithoutPiece(file);
+            file.resize(size);
+        } else if (last != "\n") {
+            line.prepend('\n');
+        }
+    }
+    if (file.write(line) != line.size()) {
+        file.resize(size);
+    }
+}
+
+}  // namespace
 
 localConsoleHistory::localConsoleHistory() {
     const std::u16string folder = localStd::fileSearch(historyFileName);
@@ -23,8 +62,9 @@ localConsoleHistory::localConsoleHistory() {
     QFile file(fileName_);
     if (file.open(QIODevice::ReadOnly)) {
         while (!file.atEnd()) {
-            const QString line = QString::fromUtf8(file.readLine()).trimmed();
-            if (!line.isEmpty()) {
+            const QByteArray bytes = file.readLine();
+            const QString line = QString::fromUtf8(bytes).trimmed();
+            if (!line.isEmpty() && !isPiece(bytes, file.pos())) {
                 lines_.append(line);
             }
         }
@@ -35,16 +75,7 @@ localConsoleHistory::localConsoleHistory() {
 void localConsoleHistory::enter(const QString& command) {
     if (lines_.isEmpty() || lines_.last() != command) {
         lines_.append(command);
-        QFile file(fileName_);
-        if (file.open(QIODevice::ReadWrite)) {
-            QByteArray line = command.toUtf8() + '\n';
-            // A last line without an end, left by another program, must not run into this one.
-            if (file.size() > 0 && file.seek(file.size() - 1) && file.read(1) != "\n") {
-                line.prepend('\n');
-            }
-            file.seek(file.size());
-            file.write(line);
-        }
+        append(fileName_, command.toUtf8() + '\n');
     }
     index_ = lines_.size();
 }

@@ -1,8 +1,11 @@
 #include "localConsole/console/localConsoleSettings.h"
 
-#include <QSaveFile>
+#include <QFile>
+#include <QFileInfo>
 
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -10,6 +13,7 @@
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/json/localJsonReader.h"
 #include "localInterpretatorUTF8/json/localJsonValue.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
@@ -42,6 +46,36 @@ localSlot listOf(int& status, const std::u16string& text) {
     return typed;
 }
 
+// Replaces a file in one step, or leaves it and gives false. QSaveFile does not serve: where the disk is full
+// it puts an empty file in the place of the old one, and a killed process may leave its temporary file,
+// each time under another name.
+bool replaceFile(const QString& name, const std::string& bytes) {
+    const QFileInfo before(name);
+    if (before.exists() && !(before.isFile() && before.isWritable())) {
+        return false;
+    }
+    const QString place = before.exists() ? before.canonicalFilePath() : name;
+    QFile file(place + QStringLiteral(".new"));
+    file.remove();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    const auto size = static_cast<qint64>(bytes.size());
+    bool done = (!before.exists() || file.setPermissions(before.permissions())) &&
+                file.write(bytes.data(), size) == size &&
+                localPlatform::flushToDisk(file.handle());
+    file.close();
+    if (done) {
+        std::error_code error;
+        std::filesystem::rename(file.filesystemFileName(), QFileInfo(place).filesystemFilePath(), error);
+        done = !error;
+    }
+    if (!done) {
+        file.remove();
+    }
+    return done;
+}
+
 }  // namespace
 
 localConsoleSettings::localConsoleSettings()
@@ -63,10 +97,10 @@ const localValueList& localConsoleSettings::list() const {
 
 std::optional<int> localConsoleSettings::number(std::u16string_view key) const {
     const localValueDescription* value = list().valueByPresentation(key);
-    if (value == nullptr || !(std::fabs(value->toNumber()) < 1e6)) {
+    if (value == nullptr || value->type != localValueTypeNUMBER || !(std::fabs(value->num) < 1e6)) {
         return std::nullopt;
     }
-    return static_cast<int>(std::lround(value->toNumber()));
+    return static_cast<int>(std::lround(value->num));
 }
 
 std::optional<QString> localConsoleSettings::command(std::u16string_view key) const {
@@ -88,10 +122,5 @@ bool localConsoleSettings::geometrySave(const QRect& geometry) {
     set(geometry.height(), u"height");
     set(geometry.x(), u"x");
     set(geometry.y(), u"y");
-    const std::string bytes = localString::toUtf8(valueToJson(*list_));
-    QSaveFile file(fileName_);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-               static_cast<qint64>(bytes.size()) &&
-           file.commit();
+    return replaceFile(fileName_, localString::toUtf8(valueToJson(*list_)));
 }

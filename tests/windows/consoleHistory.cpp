@@ -243,6 +243,17 @@ private slots:
         QVERIFY(read(settingsName).contains("other"));
     }
 
+    void oneSideAloneLeavesTheOtherAsItIs() {
+        write(settingsName, json("{'width': 640}"));
+        start();
+        QCOMPARE(shown().size(), QSize(640, defaultSize().height()));
+        QCOMPARE(withoutTail(starting_.last()),
+                 QString("width: 640 height: %1").arg(defaultSize().height()));
+        write(settingsName, json("{'height': 300}"));
+        start();
+        QCOMPARE(shown().size(), QSize(defaultSize().width(), 300));
+    }
+
     void missingCoordinateIsThatOfTheWindow() {
         write(settingsName, json("{'x': 77}"));
         start();
@@ -283,7 +294,7 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("array") << QByteArray("[1, 2]");
         QTest::newRow("number") << QByteArray("7");
-        QTest::newRow("texts for numbers") << json("{'width': 'wide', 'height': {}, 'x': [1], 'y': null}");
+        QTest::newRow("texts for numbers") << json("{'width': 'wide', 'height': {}, 'x': [1], 'y': true}");
         QTest::newRow("number for a key") << json("{'F1': 5, 'F13': '? 1', '': '? 2'}");
         QTest::newRow("immense") << json("{'width': 99999999999, 'height': -99999999999, 'x': 1000000, 'y': -5000000}");
         QTest::newRow("typed number") << json("{'t':'ЧИСЛО','v':5}");
@@ -292,7 +303,8 @@ private slots:
         QFETCH(QByteArray, bytes);
         write(settingsName, bytes);
         start();
-        QVERIFY(shown().width() <= 10000 && shown().height() <= 10000);
+        QCOMPARE(shown().size(), defaultSize());
+        QVERIFY(!shown().windowPlace().has_value());
         QCOMPARE(shown().keyCommand(1), QString("help"));
         QCOMPARE(outputOf("? 6*7"), QStringList({"42"}));
     }

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
@@ -171,6 +172,15 @@ bool pathExists(std::u16string_view name) {
 bool removeFile(std::u16string_view name) {
     std::string path;
     return systemPath(name, path) && unlink(path.c_str()) == 0;
+}
+
+bool flushToDisk(int descriptor) {
+    int result = 0;
+    do {
+        result = fsync(descriptor);
+    } while (result != 0 && errno == EINTR);
+    // Some systems of files have nothing to wait for.
+    return result == 0 || errno == EINVAL;
 }
 
 std::u16string workingDirectory() {

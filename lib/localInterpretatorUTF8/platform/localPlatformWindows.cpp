@@ -59,6 +59,10 @@ bool removeFile(std::u16string_view name) {
     return std::remove(systemPath(name).c_str()) == 0;
 }
 
+bool flushToDisk(int descriptor) {
+    return _commit(descriptor) == 0;
+}
+
 std::u16string workingDirectory() {
     char path[MAX_PATH];
     return _getcwd(path, sizeof path) == nullptr ? std::u16string() : fileNameFromBytes(path);

@@ -1,6 +1,8 @@
 // The commands that were typed, kept over restarts in a file of one UTF-8 line each, which only grows.
 //
-// A line reaches the file in one write, so that a process killed at any moment leaves it whole or absent.
+// A line reaches the file in one write, so that a process killed at any moment leaves it whole or absent. The
+// system may cut the write of a long line even so; the piece does not count as a line and goes with the next
+// line that is written.
 #pragma once
 
 #include <QString>

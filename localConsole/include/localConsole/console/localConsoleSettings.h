@@ -22,14 +22,14 @@ public:
     // The file's text as it was read.
     const std::u16string& text() const { return text_; }
 
-    // "width", "height", "x", "y", rounded; nothing when the file does not name it.
+    // "width", "height", "x", "y", rounded; nothing when the file names no such number.
     std::optional<int> number(std::u16string_view key) const;
     // "F1" to "F12".
     std::optional<QString> command(std::u16string_view key) const;
 
     // Writes the window's geometry beside whatever else the file names. The file is replaced in one step,
-    // so that a process killed at any moment leaves the old or the new one. False when it cannot be
-    // written.
+    // so that a process killed at any moment leaves the old or the new one, and perhaps localConsole.ini.new
+    // beside it until the next writing. False when it cannot be written; the old one stays then.
     bool geometrySave(const QRect& geometry);
 
 private:

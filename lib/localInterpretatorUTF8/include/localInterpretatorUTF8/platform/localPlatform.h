@@ -30,6 +30,9 @@ bool fileReadable(std::u16string_view name);
 bool pathExists(std::u16string_view path);
 bool removeFile(std::u16string_view name);
 
+// Waits until what was written to an open file has reached the disk. False when it could not.
+bool flushToDisk(int descriptor);
+
 // The working directory, empty when it cannot be told.
 std::u16string workingDirectory();
 bool changeWorkingDirectory(std::u16string_view path);
