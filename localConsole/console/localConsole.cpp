@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include <functional>
+
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
 #include "localInterpretatorUTF8/command/localCommand.h"
@@ -41,6 +43,10 @@ class localCloseLater : public QObject {
 public:
     explicit localCloseLater(QWidget* window) : window_(window) { window->installEventFilter(this); }
 
+    bool isAsked() const { return asked_; }
+    // Called when closing is asked for.
+    std::function<void()> onAsked;
+
     // Closes the window now if that was asked meanwhile.
     ~localCloseLater() override {
         if (asked_ && !window_.isNull()) {
@@ -54,6 +60,9 @@ public:
         }
         asked_ = true;
         event->ignore();
+        if (onAsked) {
+            onAsked();
+        }
         return true;
     }
 
@@ -118,7 +127,7 @@ localConsole::localConsole(QWidget* parent)
 
 localConsole::~localConsole() {
     // A program under DEBUG ends where it stands: it lives in the context. Its window goes, too.
-    thread_.reset();
+    threadEnd();
     if (editor_ != nullptr) {
         editor_->window()->close();
     }
@@ -146,10 +155,19 @@ void localConsole::cmdExec(const QString& command) {
 }
 
 int localConsole::act(const QString& command) {
-    const localCloseLater closeLater(window());
-    // What a program under DEBUG is doing must not cross with the command.
+    localCloseLater closeLater(window());
     if (thread_ != nullptr) {
+        // What a program under DEBUG is doing must not cross with the command. It may do it for ever, but
+        // closing the window ends it.
+        closeLater.onAsked = [this] { thread_->programInterrupt(); };
         thread_->waitForStop();
+        closeLater.onAsked = nullptr;
+        if (closeLater.isAsked()) {
+            return localErrorTypeOK;
+        }
+        // Its lines stand before those of the command. And its news are taken while what they point to is
+        // sure to be there.
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
     if (command.startsWith("# ")) {
         inlineCalculation(command);  // and on with the same command, in which the language sees nothing
@@ -167,14 +185,16 @@ int localConsole::act(const QString& command) {
 
 void localConsole::settingsApply() {
     writeLine(u"[" + settings_.text() + u"]");
-    const auto width = settings_.number(u"width");
-    const auto height = settings_.number(u"height");
-    if (!width || !height) {
+    const auto namedWidth = settings_.number(u"width");
+    const auto namedHeight = settings_.number(u"height");
+    if (!namedWidth && !namedHeight) {
         return;
     }
-    traceLine(u"width: " + numberToString(*width) + u" height: " + numberToString(*height),
+    const QSize wanted(namedWidth.value_or(width()), namedHeight.value_or(height()));
+    traceLine(u"width: " + numberToString(wanted.width()) + u" height: " +
+                  numberToString(wanted.height()),
               "initFromFile");
-    resize(*width, *height);
+    resize(wanted);
 }
 
 std::optional<QPoint> localConsole::windowPlace() const {

@@ -209,11 +209,7 @@ void localConsole::commandDebug(const std::u16string& text) {
         return;
     }
     // Two programs at once would share the context: the one under way ends where it stands.
-    if (thread_ != nullptr) {
-        thread_->endProgram();
-        // Its last news point into the tree that goes with it.
-        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-    }
+    threadEnd();
     thread_ = std::make_unique<MyThread>(program, context_.get());
     connect(thread_.get(), &MyThread::toConsole, this, &localConsole::fromThread);
     connect(thread_.get(), &MyThread::toConsoleAsQString, this,
@@ -231,6 +227,16 @@ void localConsole::commandDebug(const std::u16string& text) {
     thread_->start(QThread::InheritPriority);
     setFocus();
     activateWindow();
+}
+
+void localConsole::threadEnd() {
+    if (thread_ == nullptr) {
+        return;
+    }
+    thread_->programEnd();
+    // Its last news point into the tree that goes with it.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    thread_.reset();
 }
 
 void localConsole::operChangedSlot(const localOperatorCompiled* node) {

@@ -140,7 +140,9 @@ void localConsole::editKey(QKeyEvent* event) {
             }
             return;
     }
-    if (!plainOrControl) {
+    // Home and End, on the keypad too, do not look at modifiers; neither selects.
+    const bool anyModifier = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    if (!plainOrControl && !anyModifier) {
         return;
     }
     cursorToInput();

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+#include "debug/localDebugCompile.h"
 #include "debug/localDebugVariable.h"
-#include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localHalt.h"
@@ -33,26 +33,32 @@ MyThread::MyThread(std::u16string text, localContextUTF8* context, QObject* pare
 }
 
 MyThread::~MyThread() {
-    endProgram();
+    programEnd();
 }
 
 void MyThread::run() {
+    {
+        const QMutexLocker lock(&limitMutex_);
+        limit_ = &localStackGuard::ownLimit();
+    }
     int status = localErrorTypeOK;
-    call(status, text_, context_);
+    if (!isInterruptionRequested()) {
+        call(status, text_, context_);
+    }
+    const QMutexLocker lock(&limitMutex_);
+    limit_ = nullptr;
+    state_ = State::ended;
 }
 
 bool MyThread::call(int& status, const std::u16string& text, localContextUTF8* context) {
-    std::uint32_t pos = 0;
-    if (!textCompile(status, text, pos, &root_) || status != localErrorTypeOK) {
+    if (!localDebugCompile(status, text, root_)) {
         traceLine(statusMessage(status), "call");
         return false;
     }
     localDebugVariablePut(*context, u"thisProcess", this);
     localSlot result;
     if (!root_.executeFunction(status, context, root_, localArguments(), result.asResult())) {
-        if (!ending_) {
-            traceLine(statusMessage(status), "call");
-        }
+        traceLine(statusMessage(status), "call");
         return false;
     }
     return true;
@@ -68,7 +74,7 @@ bool MyThread::execute(int& status, localContextUTF8* context, const localOperat
         if (stopsAt(node)) {
             worker->stop();
         }
-        if (worker->ending_) {
+        if (worker->isInterruptionRequested()) {
             status = localErrorTypeOK;
             return false;
         }
@@ -79,19 +85,19 @@ bool MyThread::execute(int& status, localContextUTF8* context, const localOperat
 void MyThread::stop() {
     QEventLoop loop;
     connect(this, &MyThread::toLoop, &loop, &QEventLoop::quit);
-    atStop_ = true;
+    state_ = State::atStop;
     emit stopped();
-    if (!ending_) {
+    while (state_ == State::atStop && !isInterruptionRequested()) {
         loop.exec();
     }
-    atStop_ = false;
+    state_ = State::working;
 }
 
 void MyThread::fromConsole(std::u16string line) {
     command_ = std::move(line);
-    if (atStop_) {
-        // From here on the worker counts as running: who waits must not take the old stop for the next.
-        atStop_ = false;
+    // From here on the worker counts as working: who waits must not take the old stop for the next.
+    State expected = State::atStop;
+    if (state_.compare_exchange_strong(expected, State::working)) {
         emit toLoop();
     }
 }
@@ -105,11 +111,21 @@ void MyThread::waitForStop() {
     }
 }
 
-void MyThread::endProgram() {
-    ending_ = true;
+void MyThread::programInterrupt() {
+    requestInterruption();
+    {
+        const QMutexLocker lock(&limitMutex_);
+        if (limit_ != nullptr) {
+            localStackGuard::endPrograms(*limit_);
+        }
+    }
     emit toLoop();
+}
+
+void MyThread::programEnd() {
+    programInterrupt();
     // The worker may be waiting for this thread to show something or to take a line.
-    while (isRunning() && !wait(10)) {
+    while (!wait(10)) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 }

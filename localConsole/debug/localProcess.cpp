@@ -4,10 +4,10 @@
 
 #include <utility>
 
+#include "debug/localDebugCompile.h"
 #include "debug/localDebugVariable.h"
 #include "localConsole/debug/localDebugEditor.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
-#include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
@@ -27,8 +27,7 @@ bool localProcess::trace(int& status, const std::u16string& text, localContextUT
     }
     editor_ = localDebugEditorShow(fileName, program);
     localOperatorCompiled root(&localProcess::execute);
-    std::uint32_t pos = 0;
-    if (!textCompile(status, program, pos, &root) || status != localErrorTypeOK) {
+    if (!localDebugCompile(status, program, root)) {
         traceLine(statusMessage(status), functionName);
         return false;
     }

@@ -36,19 +36,20 @@ expectFile made-by-program ''
 enter '? путь'
 enter 'q'
 typeText 'half a command, пол'
-sleep 0.5
+waitForRest
 screenshot console "$console"
-xdotool key --delay 15 --repeat 19 BackSpace
+press --repeat 19 BackSpace
 
 # The cursor stops at the prompt, so the line is whole whatever was pressed too often.
 typeText 'RUX "echo kept > edited.txt"'
-xdotool key --delay 15 Home Left Left BackSpace Right Right Delete
+press Home Left Left BackSpace Right Right Delete
 typeText 'N'
-xdotool key --delay 15 Return
+press Return
 expectFile edited.txt kept
 
 # A click into the output does not take the keys away from the input line.
 typeText 'RUN "echo kept '
+waitForRest
 xdotool mousemove --window "$console" 60 60 click 1
 enter '> clicked.txt"'
 expectFile clicked.txt kept
@@ -56,7 +57,7 @@ expectFile clicked.txt kept
 # Keys that are pressed while a program runs are lost.
 enter 'DO "slow.prg"'
 expectFile running ''
-enter 'RUN "touch lost"'
+enterAtOnce 'RUN "touch lost"'
 [[ ! -e finished ]] || fail "the slow program was too fast for this test"
 waitFor 120 test -e finished || fail "the slow program did not end"
 enter 'RUN "echo kept > after.txt"'

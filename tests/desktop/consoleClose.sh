@@ -12,7 +12,7 @@ END
 
 startDisplay
 startKorvo
-xdotool key alt+F4
+press alt+F4
 expectEnd
 
 # While a program runs the window stays; it closes when the program has ended.

@@ -31,19 +31,19 @@ enter 'EDIT COMMAND sum.prg'
 editorOf 'sum\.prg'
 focus "$editor"
 typeText 'sum = 0;'
-xdotool key --delay 15 Return
+press Return
 typeText 'FOR i = 1 TO 3 DO'
-xdotool key --delay 15 Return
+press Return
 typeText '    sum = sum+i*i; // square'
-xdotool key --delay 15 Return
+press Return
 typeText 'ENDDO;'
-xdotool key --delay 15 Return
+press Return
 typeText 'RUN "echo " + STRING(sum) + " > sum.txt";'
-xdotool key --delay 15 ctrl+s
+press ctrl+s
 waitFor 30 grep -q 'sum.txt' sum.prg || fail "Ctrl+S did not save: $(cat sum.prg)"
 grep -q '^    sum = sum+i\*i; // square$' sum.prg || fail "wrong text saved: $(cat sum.prg)"
 screenshot editor "$editor"
-xdotool key alt+F4
+press alt+F4
 waitFor 30 hasNoWindow 'sum\.prg' || fail "the editor did not close"
 
 focus "$console"
@@ -63,7 +63,7 @@ enter 'RUN "echo " + STRING(sum) + " > atStop.txt"'
 expectFile atStop.txt 5
 [[ ! -e sum.txt ]] || fail "the program ran on without STEP"
 enter '? sum'
-sleep 0.5
+waitForRest
 screenshot debugStop
 
 # What is assigned at a stop is what the program goes on with.
@@ -86,6 +86,6 @@ enter 'QUIT'
 waitFor 30 hasEditors 1 || fail "the editor of the stopped program stayed"
 editorOf 'sum\.prg'
 focus "$editor"
-xdotool key alt+F4
+press alt+F4
 expectEnd
 [[ ! -e sum.txt ]] || fail "the program ran on when the console closed"

@@ -10,9 +10,9 @@ startDisplay
 startKorvo
 enter 'DO "greedy.prg"'
 waitFor 60 xdotool search --onlyvisible --name '^Halt!!! Runtime error\.$' || fail "no box"
-sleep 0.3
+waitForRest
 screenshot halt
-xdotool key Return
+press Return
 waitFor 30 hasEnded || fail "korvo did not end"
 code=0
 wait "$korvo" || code=$?

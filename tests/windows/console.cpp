@@ -224,6 +224,18 @@ private slots:
         QCOMPARE(cursorInLine(), int(prompt.size()) + 4);
     }
 
+    void homeAndEndDoNotLookAtModifiersAndSelectNothing() {
+        type(shown(), "abc");
+        for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::KeypadModifier}) {
+            key(Qt::Key_Home, modifier);
+            QCOMPARE(cursorInLine(), int(prompt.size()));
+            QVERIFY(!shown().textCursor().hasSelection());
+            key(Qt::Key_End, modifier);
+            QCOMPARE(cursorInLine(), int(prompt.size()) + 3);
+            QVERIFY(!shown().textCursor().hasSelection());
+        }
+    }
+
     void rightStopsAtTheEndAndDeleteTakesTheNext() {
         type(shown(), "abc");
         key(Qt::Key_Right);

@@ -301,7 +301,6 @@ private slots:
         const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
         QTest::newRow("Shift+Up") << int(Qt::Key_Up) << shift;
         QTest::newRow("Ctrl+Down") << int(Qt::Key_Down) << Qt::KeyboardModifiers(Qt::ControlModifier);
-        QTest::newRow("Shift+Home") << int(Qt::Key_Home) << shift;
         QTest::newRow("Shift+Delete") << int(Qt::Key_Delete) << shift;
         QTest::newRow("Shift+Backspace") << int(Qt::Key_Backspace) << shift;
         QTest::newRow("page down") << int(Qt::Key_PageDown) << none;

@@ -1,5 +1,6 @@
 #include "localInterpretatorUTF8/text/localHalt.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -12,5 +13,7 @@ void exit_FAILURE(std::u16string_view message) {
     host.setCursor(localHost::Cursor::arrow);
     host.haltBox(u"Halt!!! Runtime error.", message);
     host.setCursor(localHost::Cursor::restored);
-    std::exit(1);
+    // Nothing is torn down: other threads and their windows may be at work with it.
+    std::fflush(nullptr);
+    std::_Exit(1);
 }

@@ -1,5 +1,7 @@
 #include "localInterpretatorUTF8/text/localStackGuard.h"
 
+#include <cstdint>
+
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
@@ -10,15 +12,29 @@ namespace {
 // What a line of output may need below the deepest point: the window program paints while it is written.
 constexpr std::size_t reserve = std::size_t{1} << 20;
 
+// Above every frame.
+const char* const noRoom = reinterpret_cast<const char*>(UINTPTR_MAX);
+
 }  // namespace
 
 const char* lowestAllowedFind() {
-    lowestAllowed = localPlatform::stackLimit() + reserve;
-    return lowestAllowed;
+    const char* lowest = nullptr;
+    // Another thread may have ended the programs of this one already.
+    if (lowestAllowed.compare_exchange_strong(lowest, localPlatform::stackLimit() + reserve)) {
+        lowest = lowestAllowed;
+    }
+    return lowest;
+}
+
+void endPrograms(Limit& limit) {
+    limit = noRoom;
 }
 
 bool refuse(int& status, std::string_view function, std::source_location place) {
     status = localErrorTypeCODE;
+    if (lowestAllowed == noRoom) {
+        return false;
+    }
     traceLine(u"Слишком глубокая вложенность или рекурсия!", function, place);
     return false;
 }

@@ -42,10 +42,19 @@ startDisplay() {
     openbox >openbox.log 2>&1 &
     ownProcesses=("$!" "${ownProcesses[@]}")
     waitFor 30 windowManagerStands || fail "no window manager"
+    # It takes keys a while later: its key for the bare desktop tells when.
+    waitFor 30 toggleDesktop 1 && waitFor 30 toggleDesktop 0 || fail "the window manager takes no keys"
 }
 
 windowManagerStands() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+
+# toggleDesktop STATE: whether that was what it took to show the bare desktop (1) or the windows (0).
+toggleDesktop() {
+    xdotool key super+d
+    sleep 0.1
+    xprop -root _NET_SHOWING_DESKTOP | grep -q "= $1\$"
 }
 
 # startKorvo ARGUMENTS...: the console is on the screen and has the keyboard; its process is $korvo.
@@ -64,14 +73,49 @@ consoleIsActive() {
     [[ "$(xdotool getactivewindow)" == "$console" ]]
 }
 
+# Keys pressed while korvo is busy are dropped. So these wait until it has done with what came before; the
+# ones whose names end in AtOnce do not.
 typeText() {
+    waitForRest
+    typeAtOnce "$1"
+}
+
+typeAtOnce() {
     xdotool type --delay 15 -- "$1"
 }
 
 # enter LINE: types a line and the Return key.
 enter() {
-    typeText "$1"
+    waitForRest
+    enterAtOnce "$1"
+}
+
+enterAtOnce() {
+    typeAtOnce "$1"
     xdotool key --delay 15 Return
+}
+
+# press KEYS...: keys by their names.
+press() {
+    waitForRest
+    xdotool key --delay 15 "$@"
+}
+
+waitForRest() {
+    waitFor 60 isAtRest || fail "korvo does not come to rest"
+}
+
+# The windows' thread has slept in its event loop for a while.
+isAtRest() {
+    local before
+    before="$(restOf)"
+    sleep 0.06
+    [[ $before == S* && "$(restOf)" == "$before" ]]
+}
+
+# Whether the windows' thread sleeps, and how often it has gone to sleep.
+restOf() {
+    sed -n 's/^State:\t\(.\).*/\1/p; s/^voluntary_ctxt_switches:\t//p' "/proc/$korvo/task/$korvo/status"
 }
 
 # expectFile NAME TEXT: the file comes to hold the text.

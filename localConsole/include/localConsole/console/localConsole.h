@@ -93,6 +93,8 @@ private:
     // "# expression": the line removes itself and its value is written.
     void inlineCalculation(const QString& command);
     void commandDebug(const std::u16string& text);
+    // Ends the program under DEBUG where it stands.
+    void threadEnd();
     void commandHelpAsPrg();
     void tryExample();
 

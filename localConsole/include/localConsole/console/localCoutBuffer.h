@@ -5,12 +5,17 @@
 // for it. After every line the event loop runs for a moment without the user's input, so that windows are
 // painted while a program runs and yet no key reaches them.
 //
-// A thread of its own may write too: the signal is then queued to the window's thread.
+// A thread of its own may write too: each thread has its own unfinished line, and the signal is queued to
+// the windows' thread. So that waiting lines do not fill the memory, such a thread stands still now and
+// then until the windows' thread has taken them. What it writes after it was asked for its interruption is
+// dropped.
 #pragma once
 
 #include <QObject>
 #include <QString>
+#include <QThreadStorage>
 
+#include <atomic>
 #include <streambuf>
 #include <string>
 
@@ -20,7 +25,7 @@ class localCoutBuffer : public QObject, public std::streambuf {
 public:
     explicit localCoutBuffer(QObject* parent = nullptr);
 
-    // The last byte that was written.
+    // The last byte that was written, by any thread.
     char lastCharacter() const { return lastCharacter_; }
 
 signals:
@@ -32,8 +37,16 @@ protected:
     std::streamsize xsputn(const char* bytes, std::streamsize count) override;
 
 private:
-    void lineEnd();
+    // What a thread has written.
+    struct Writer {
+        std::string line;
+        int linesAhead = 0;  // told since the windows' thread was last waited for
+    };
 
-    char lastCharacter_ = '\0';
-    std::string line_;
+    Writer& writer();
+    void lineEnd(Writer& writer);
+
+    std::atomic<char> lastCharacter_ = '\0';
+    Writer windowsThread_;
+    QThreadStorage<Writer> otherThreads_;
 };

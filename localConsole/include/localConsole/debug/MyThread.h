@@ -6,10 +6,11 @@
 // console may look and assign there; while it runs, the console waits with the next command (waitForStop).
 // That alternation is the whole exclusion, there is no lock.
 //
-// The object belongs to the window's thread. It keeps the compiled tree as long as it lives, since signals
+// The object belongs to the windows' thread. It keeps the compiled tree as long as it lives, since signals
 // on their way carry pointers into it.
 #pragma once
 
+#include <QMutex>
 #include <QString>
 #include <QThread>
 
@@ -17,6 +18,7 @@
 #include <string>
 
 #include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/text/localStackGuard.h"
 
 class localContextUTF8;
 
@@ -39,12 +41,16 @@ public:
                         const localArguments& args, localValueDescription*& result);
 
     // Whether the worker has the language for itself: it runs and stands at no stop. Once false it stays so
-    // until the window's thread lets the worker go on.
-    bool isWorking() const { return isRunning() && !atStop_; }
+    // until the windows' thread lets the worker go on.
+    bool isWorking() const { return state_ == State::working && isRunning(); }
     // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile.
     void waitForStop();
-    // Makes the program end at its present stop, and waits for the worker.
-    void endProgram();
+    // Makes the program fail at its present stop, or wherever it works, without a line: a thread that is
+    // asked for its interruption has nothing more to say (localCoutBuffer). Comes back at once.
+    void programInterrupt();
+    // Interrupts the program and waits for the worker. Windows are painted meanwhile, and answer what the
+    // program asks.
+    void programEnd();
 
 signals:
     // The statement about to run.
@@ -65,12 +71,15 @@ protected:
     void run() override;
 
 private:
+    enum class State { working, atStop, ended };
+
     void stop();
 
     std::u16string command_;
     std::u16string text_;
     localContextUTF8* context_;
     localOperatorCompiled root_;
-    std::atomic<bool> atStop_ = false;
-    std::atomic<bool> ending_ = false;
+    std::atomic<State> state_ = State::working;
+    QMutex limitMutex_;
+    localStackGuard::Limit* limit_ = nullptr;  // the worker's, while it runs
 };

@@ -86,7 +86,7 @@ TEST_F(watchedRun, aThreadThatNeverRanTakesStepsAndEnds) {
     MyThread thread(u"a = 1;", context.get());
     thread.fromConsole(u"STEP");
     thread.waitForStop();
-    thread.endProgram();
+    thread.programEnd();
     EXPECT_EQ(context->varFind(u"a"), nullptr);
 }
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <thread>
 
 #include "support/language.h"
@@ -54,6 +55,44 @@ TEST(localStackGuard, knowsTheStackOfEveryThread) {
     std::thread([&] { descend(way); }).join();
     EXPECT_GT(way.depth, 100);
     EXPECT_EQ(way.status, localErrorTypeCODE);
+}
+
+TEST(localStackGuard, leavesNoRoomToAThreadWhoseProgramsAreEnded) {
+    const capturedOutput output;
+    std::atomic<localStackGuard::Limit*> limit = nullptr;
+    std::atomic<bool> ended = false;
+    int status = localErrorTypeOK;
+    bool entered = true;
+    bool enteredBefore = false;
+    std::thread worker([&] {
+        int statusBefore = localErrorTypeOK;
+        enteredBefore = localStackGuard::enter(statusBefore, "worker");
+        limit = &localStackGuard::ownLimit();
+        limit.notify_one();
+        ended.wait(false);
+        entered = localStackGuard::enter(status, "worker");
+    });
+    limit.wait(nullptr);
+    localStackGuard::endPrograms(*limit);
+    ended = true;
+    ended.notify_one();
+    worker.join();
+    EXPECT_TRUE(enteredBefore);
+    EXPECT_FALSE(entered);
+    EXPECT_EQ(status, localErrorTypeCODE);
+    EXPECT_TRUE(output.rawLines().empty());
+    EXPECT_TRUE(localStackGuard::enter(status, "here"));
+}
+
+TEST(localStackGuard, leavesNoRoomToAThreadThatAsksOnlyAfterThat) {
+    int status = localErrorTypeOK;
+    bool entered = true;
+    std::thread([&] {
+        localStackGuard::endPrograms(localStackGuard::ownLimit());
+        entered = localStackGuard::enter(status, "worker");
+    }).join();
+    EXPECT_FALSE(entered);
+    EXPECT_EQ(status, localErrorTypeCODE);
 }
 
 } // namespace
