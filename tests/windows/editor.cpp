@@ -9,6 +9,7 @@
 #include <QMdiArea>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 
 #include "editorTest.h"
@@ -32,6 +33,7 @@ private slots:
     void coloursFollowTyping();
     void lineNumberStripWidens();
     void currentLineIsMarked();
+    void stripFollowsScrolling();
     void manyLinesAreColouredInViewOnly();
     void aKeyColoursItsOwnLine();
     void insertedTextIsColouredInViewOnly();
@@ -41,23 +43,27 @@ private slots:
     void findNothingRestoresTheCursor();
     void findDialogAndHistory();
     void findDialogRejected();
+    void findEmptyText();
     void findNextWithoutHistory();
     void lineJump();
     void lineJumpToZero();
     void lineJumpRefused();
     void gotoProcedure();
+    void gotoProcedureOfLinesThatReadAlike();
     void gotoProcedureRejected();
     void gotoProcedureWithoutAny();
     void commentOneLine();
     void commentSelection();
+    void commentKeysWithShift();
+    void commentManyLines();
+    void redoKey();
     void diagnosisKey();
     void maximiseKey();
     void passedOnKey();
     void otherKeysType();
 };
 
-// What it looks like
-// -------------------------------------------------------------------------------
+// What it looks like ------------------------------------------------------------------------------
 
 void editor::constructed() {
     testedEditor edit(u"a.prg", u"x=1;\ny=2;");
@@ -192,6 +198,24 @@ void editor::currentLineIsMarked() {
     QVERIFY(edit.extraSelections()[0].format.boolProperty(QTextFormat::FullWidthSelection));
 }
 
+void editor::stripFollowsScrolling() {
+    testedEditor edit(u"", manyLines(2000).toStdU16String());
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    const auto shown = [&] { return edit.screen()->grabWindow(edit.winId()).toImage(); };
+    for (const int line : {1, 2, 5, 4, 3, 1000, 999, 0, 3}) {
+        edit.verticalScrollBar()->setValue(line);
+        QTest::qWait(20);
+        const QImage scrolled = shown();
+        edit.repaint();
+        for (QWidget* const part : edit.findChildren<QWidget*>()) {
+            part->update();
+        }
+        QTest::qWait(20);
+        QCOMPARE(scrolled, shown());
+    }
+}
+
 void editor::manyLinesAreColouredInViewOnly() {
     testedEditor edit(u"");
     edit.show();
@@ -254,8 +278,7 @@ void editor::insertedTextIsColouredInViewOnly() {
     QCOMPARE(text(edit), QString("x\n"));
 }
 
-// Search
-// ---------------------------------------------------------------------------------------------
+// Search ------------------------------------------------------------------------------------------
 
 void editor::findForwardAndWrap() {
     testedEditor edit(u"", u"one\ntwo One\nthree");
@@ -384,6 +407,22 @@ void editor::findDialogRejected() {
     QVERIFY(!edit.textCursor().hasSelection());
 }
 
+void editor::findEmptyText() {
+    testedEditor edit(u"", u"aa aa");
+    edit.show();
+    QTest::keyClick(&edit, Qt::Key_End);
+    answer<localDialogFindString> dialog(
+        [](localDialogFindString& shown) { QTest::keyClick(&shown, Qt::Key_Return); });
+    QTest::keyClick(&edit, Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(dialog.count, 1);
+    QVERIFY(edit.findHistory().empty());
+    QCOMPARE(edit.textCursor().position(), 5);
+    answer<QMessageBox> box([](QMessageBox& shown) { shown.accept(); });
+    edit.findText("", {});
+    QCOMPARE(box.count, 1);
+    QCOMPARE(edit.textCursor().position(), 5);
+}
+
 void editor::findNextWithoutHistory() {
     testedEditor edit(u"", u"aa aa");
     edit.show();
@@ -392,8 +431,7 @@ void editor::findNextWithoutHistory() {
     QCOMPARE(edit.textCursor().position(), 0);
 }
 
-// Jumps, comments and other keys
-// ------------------------------------------------------------------------
+// Jumps, comments and other keys ------------------------------------------------------------------
 
 void editor::lineJump() {
     testedEditor edit(u"", manyLines(300).toStdU16String());
@@ -482,6 +520,23 @@ void editor::gotoProcedure() {
     QCOMPARE(edit.textCursor().blockNumber(), 1);
 }
 
+void editor::gotoProcedureOfLinesThatReadAlike() {
+    testedEditor edit(u"", u"x\nfunction f()\ny\nfunction f()\nfunction F()");
+    edit.show();
+    for (const int row : {0, 1, 2}) {
+        outputCapture output;
+        answer<localVclQStringListGetItemDialog> dialog([&](localVclQStringListGetItemDialog& shown) {
+            auto* const list = shown.findChild<QListWidget*>();
+            QCOMPARE(list->count(), 3);
+            list->setCurrentRow(row);
+            QTest::keyClick(list, Qt::Key_Return);
+        });
+        QTest::keyClick(&edit, Qt::Key_P, Qt::AltModifier);
+        QCOMPARE(dialog.count, 1);
+        QCOMPARE(edit.textCursor().blockNumber(), row == 2 ? 4 : 1);
+    }
+}
+
 void editor::gotoProcedureRejected() {
     testedEditor edit(u"", u"x\nfunction f()");
     edit.show();
@@ -530,6 +585,40 @@ void editor::commentSelection() {
     select(18, 1);
     QTest::keyClick(&edit, Qt::Key_Slash, Qt::ControlModifier);
     QCOMPARE(text(edit), QString("//one\n//two\n//\n//four\n//five"));
+}
+
+void editor::commentKeysWithShift() {
+    testedEditor edit(u"", u"a");
+    for (const Qt::Key key : {Qt::Key_Slash, Qt::Key_Period}) {
+        QTest::keyClick(&edit, key, Qt::ControlModifier | Qt::ShiftModifier);
+    }
+    QCOMPARE(text(edit), QString("////a"));
+}
+
+void editor::commentManyLines() {
+    const QString before = manyLines(50000);
+    testedEditor edit(u"", before.toStdU16String());
+    edit.show();
+    QTest::qWait(50);
+    const auto coloured = edit.highlighter().colouredCount();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_Slash, Qt::ControlModifier);
+    QTest::qWait(50);
+    QCOMPARE(text(edit), "//" + QString(before).replace("\n", "\n//"));
+    QVERIFY(edit.highlighter().colouredCount() - coloured < 700);
+    QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(text(edit), before);
+    QVERIFY(!edit.document()->isModified());
+    QVERIFY(!edit.document()->isUndoAvailable());
+}
+
+void editor::redoKey() {
+    testedEditor edit(u"", u"a");
+    QTest::keyClick(&edit, Qt::Key_Slash, Qt::ControlModifier);
+    QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(text(edit), QString("a"));
+    QTest::keyClick(&edit, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(text(edit), QString("//a"));
 }
 
 void editor::diagnosisKey() {

@@ -10,6 +10,7 @@
 #include "editorTest.h"
 #include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localVCL/editor/localVclPrgTextHighlighter.h"
 #include "localVCL/editor/localVclTextSaveDialog.h"
@@ -29,15 +30,26 @@ private slots:
     void saveKeys();
     void saveWritesUtf8();
     void saveFails();
+    void saveToAFullDisk();
+    void saveAFileThatIsGone();
+    void saveInTheFolderOfTheFile();
+    void namesWithBlanksAndRussianLetters();
+    void nameTooLongForTheSystem();
+    void lineEndsOfAnotherSystem();
+    void charactersThatTheFileCannotHold();
+    void bytesThatCannotBeRead();
+    void lossBoxAnswers();
     void saveAs();
     void saveAsNothingChosen();
     void saveAsFails();
     void commonSaveDialog();
     void openKey();
     void titleMarksAChangedText();
+    void titleOfANameWithTheMark();
     void closeDiscards();
     void closeCancelled();
     void closeSaves();
+    void closeSavesUnderANewName();
     void closeAndSaveFails();
     void closeWithoutChangeDoesNotAsk();
     void closeBoxAnswers();
@@ -46,12 +58,12 @@ private slots:
     void embeddedEditorLeavesTheWindowAlone();
     void positionsOfAText();
     void commandOpensTheEditor();
+    void programOpensTheEditor();
     void commandWithFolder();
     void longFileOpensAtItsFirstScreen();
 };
 
-// Files
-// ---------------------------------------------------------------------------------------------
+// Files -------------------------------------------------------------------------------------------
 
 void editorFiles::loadInCodePages() {
     const QByteArray utf8 = QString("сообщить(\"Ёж\");\nx=1;\n").toUtf8();
@@ -83,10 +95,12 @@ void editorFiles::loadInCodePages() {
 
 void editorFiles::loadMissingAsksForAFile() {
     write("there.prg", "x=1;");
+    QVERIFY(QDir().mkpath("prgTest"));
     testedEditor edit(u"before", u"old");
     QString title;
     answer<QFileDialog> dialog([&](QFileDialog& shown) {
         title = shown.windowTitle();
+        QCOMPARE(shown.directory(), QDir("prgTest"));
         QCOMPARE(shown.nameFilters(), QStringList{"*.prg *.prg"});
         shown.findChild<QLineEdit*>()->setText(path("there.prg"));
         QTest::keyClick(shown.findChild<QLineEdit*>(), Qt::Key_Return);
@@ -157,6 +171,175 @@ void editorFiles::saveFails() {
             QCOMPARE(host.kinds[0], localHost::MessageKind::critical);
             QVERIFY(host.boxes[0].startsWith("save|Ошибка записи файла [no/such/folder/a.prg]\n"));
         }
+    }
+}
+
+void editorFiles::saveToAFullDisk() {
+    recordingHost host;
+    testedEditor edit(u"/dev/full", u"text");
+    QTest::keyClick(&edit, Qt::Key_X);
+    outputCapture output;
+    QTest::keyClick(&edit, Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
+    QCOMPARE(host.boxes.size(), 1);
+    QCOMPARE(text(edit), QString("xtext"));
+    QCOMPARE(shownTitle(edit), QString("/dev/full*"));
+    QVERIFY(!edit.windowMayClose());
+    QCOMPARE(edit.asked, 1);
+}
+
+void editorFiles::saveAFileThatIsGone() {
+    write("gone.prg", "x");
+    testedEditor edit(u"");
+    QVERIFY(edit.load(u"gone.prg", localString::codePageUtf8));
+    QVERIFY(QFile::remove("gone.prg"));
+    QTest::keyClick(&edit, Qt::Key_Y);
+    QTest::keyClick(&edit, Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(read("gone.prg"), QByteArray("yx"));
+    QCOMPARE(shownTitle(edit), QString("gone.prg"));
+}
+
+void editorFiles::saveInTheFolderOfTheFile() {
+    const auto changeFolder = [](const QString& name) {
+        QVERIFY(localPlatform::changeWorkingDirectory(name.toStdU16String()));
+    };
+    write("here.prg", "x");
+    QVERIFY(QDir().mkpath("elsewhere"));
+    testedEditor edit(u"");
+    QVERIFY(edit.load(u"here.prg", localString::codePageUtf8));
+    QTest::keyClick(&edit, Qt::Key_Y);
+    changeFolder("elsewhere");
+    const bool saved = edit.saveSlot();
+    const bool strayed = QFile::exists("here.prg");
+    testedEditor whole(path("whole.prg").toStdU16String(), u"z");
+    changeFolder("..");
+    QVERIFY(saved);
+    QVERIFY(!strayed);
+    QCOMPARE(read("here.prg"), QByteArray("yx"));
+    QCOMPARE(shownTitle(edit), QString("here.prg"));
+    QVERIFY(whole.saveSlot());
+    QCOMPARE(read("whole.prg"), QByteArray("z"));
+}
+
+void editorFiles::namesWithBlanksAndRussianLetters() {
+    const QString name = "мои цены 1 ёж.prg";
+    write(name, "x");
+    testedEditor edit(u"");
+    QVERIFY(edit.load(name.toStdU16String(), localString::codePageUtf8));
+    QCOMPARE(shownTitle(edit), name);
+    QTest::keyClick(&edit, Qt::Key_Y);
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(read(name), QByteArray("yx"));
+    // Blanks around a name are no part of it.
+    write(" blank.prg ", "other");
+    write("blank.prg", "trimmed");
+    QVERIFY(edit.load(u" blank.prg ", localString::codePageUtf8));
+    QCOMPARE(edit.fileName(), std::u16string(u"blank.prg"));
+    QCOMPARE(text(edit), QString("trimmed"));
+}
+
+void editorFiles::nameTooLongForTheSystem() {
+    recordingHost host;
+    const QString name = QString(300, QChar(u'Щ')) + ".prg";
+    testedEditor edit(name.toStdU16String(), u"x");
+    QTest::keyClick(&edit, Qt::Key_Y);
+    outputCapture output;
+    QVERIFY(!edit.saveSlot());
+    QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
+    QCOMPARE(shownTitle(edit), name + "*");
+    answer<QFileDialog> dialog([](QFileDialog& shown) { shown.reject(); });
+    QVERIFY(!edit.load(name.toStdU16String(), localString::codePageUtf8));
+    QCOMPARE(dialog.count, 1);
+    QCOMPARE(text(edit), QString("yx"));
+}
+
+void editorFiles::lineEndsOfAnotherSystem() {
+    write("ends.prg", "if x\r\nthen\r\n\r\nx=1;\r\n");
+    testedEditor edit(u"");
+    QVERIFY(edit.load(u"ends.prg", localString::codePageUtf8));
+    // The line end before the file's last line feed leaves an empty line.
+    QCOMPARE(text(edit), QString("if x\nthen\n\nx=1;\n"));
+    QCOMPARE(edit.blockCount(), 5);
+    QVERIFY(hasColour(formatAt(edit, 1, 3), Qt::red, false));
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(read("ends.prg"), QByteArray("if x\nthen\n\nx=1;\n"));
+}
+
+void editorFiles::charactersThatTheFileCannotHold() {
+    write("loss.prg", "old");
+    testedEditor edit(u"loss.prg", u"x;\n// Ёж № 5 — Є 🙂");
+    QTest::keyClick(&edit, Qt::Key_Y);
+    outputCapture output;
+    QVERIFY(!edit.saveSlot());
+    QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
+    QCOMPARE(edit.questions,
+             QStringList{"Знаков, которых файл не может сохранить: 5. Первый из них, \"№\", стоит в "
+                         "строке 2. В файле они будут потеряны. Сохранить его?"});
+    QCOMPARE(read("loss.prg"), QByteArray("old"));
+    QCOMPARE(shownTitle(edit), QString("loss.prg*"));
+    QVERIFY(!edit.saveAsSlot());
+    QCOMPARE(edit.questions.size(), 2);
+
+    edit.loses = true;
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(edit.questions.size(), 3);
+    QCOMPARE(shownTitle(edit), QString("loss.prg"));
+    QCOMPARE(read("loss.prg"), QByteArray("yx;\n// ") + QString("Ёж").toUtf8() + " \xFF 5 \xFF \xFF \xFF\xFF");
+    // Agreed once; more to lose is asked for again.
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(edit.questions.size(), 3);
+    edit.insertPlainText("🙂«");
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(edit.questions.size(), 4);
+    QVERIFY2(edit.questions.last().startsWith("Знаков, которых файл не может сохранить: 8. Первый из них, \"🙂\", стоит в строке 1."),
+             qPrintable(edit.questions.last()));
+    // Another text is another question.
+    edit.textSet(u"№");
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(edit.questions.size(), 5);
+    // A letter of which the file's bytes read together with the next as a letter.
+    edit.textSet(u"\u00D0\u00A0");
+    QVERIFY(edit.saveSlot());
+    QCOMPARE(edit.questions.size(), 6);
+}
+
+void editorFiles::bytesThatCannotBeRead() {
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        localString::possibleCodePage codePage;
+        const char* asked;
+    } cases[] = {{"mark.prg", QByteArray::fromHex("efbbbf") + "x=1;", localString::codePageUtf8, "3"},
+                 {"number.prg", QString("x=1; // №").toUtf8(), localString::codePageUtf8, "3"},
+                 {"cp1251.prg", QByteArray::fromHex("b9"), localString::codePageCP1251, "1"},
+                 {"cp866.prg", QByteArray::fromHex("fcff"), localString::codePageCP866, "2"}};
+    for (const auto& each : cases) {
+        write(each.name, each.bytes);
+        testedEditor edit(u"");
+        QVERIFY(edit.load(QString(each.name).toStdU16String(), each.codePage));
+        outputCapture output;
+        QVERIFY(!edit.saveSlot());
+        QCOMPARE(edit.questions.size(), 1);
+        QVERIFY2(edit.questions[0].startsWith(
+                     QString("Знаков, которых файл не может сохранить: %1. ").arg(each.asked)),
+                 qPrintable(edit.questions[0]));
+        QCOMPARE(read(each.name), each.bytes);
+    }
+}
+
+void editorFiles::lossBoxAnswers() {
+    for (const auto button : {QMessageBox::Cancel, QMessageBox::Save}) {
+        write("loss.prg", "old");
+        localVclWidgetEditor edit(u"loss.prg", u"№");
+        outputCapture output;
+        answer<QMessageBox> box([&](QMessageBox& shown) {
+            QCOMPARE(shown.defaultButton(), shown.button(QMessageBox::Cancel));
+            QVERIFY(saveScreenshot(shown, "editorLoss"));
+            shown.button(button)->click();
+        });
+        QCOMPARE(edit.saveSlot(), button == QMessageBox::Save);
+        QCOMPARE(box.count, 1);
+        QCOMPARE(read("loss.prg"), button == QMessageBox::Save ? QByteArray("\xFF") : QByteArray("old"));
     }
 }
 
@@ -247,8 +430,7 @@ void editorFiles::openKey() {
     QCOMPARE(text(*opened), QString("x=2;"));
 }
 
-// The window
-// ---------------------------------------------------------------------------------------
+// The window --------------------------------------------------------------------------------------
 
 void editorFiles::titleMarksAChangedText() {
     auto* const edit = new testedEditor(u"title.prg", u"x");
@@ -270,6 +452,12 @@ void editorFiles::titleMarksAChangedText() {
     write("other.prg", "z");
     QVERIFY(edit->load(u"other.prg", localString::codePageUtf8));
     QCOMPARE(shownTitle(window), QString("other.prg"));
+}
+
+void editorFiles::titleOfANameWithTheMark() {
+    // Doubled, the toolkit shows the signs themselves.
+    testedEditor edit(u"a[*]b.prg", u"x");
+    QCOMPARE(edit.windowTitle(), QString("a[*][*]b.prg[*]"));
 }
 
 void editorFiles::closeDiscards() {
@@ -303,6 +491,26 @@ void editorFiles::closeSaves() {
     QVERIFY(edit->window()->close());
     QTRY_VERIFY(edit.isNull());
     QCOMPARE(read("close.prg"), QByteArray("yold"));
+}
+
+void editorFiles::closeSavesUnderANewName() {
+    QPointer<testedEditor> edit = new testedEditor(u"", u"old");
+    edit->openWindow();
+    QTest::keyClick(edit, Qt::Key_Y);
+    edit->nextAnswer = localVclWidgetEditor::CloseAnswer::save;
+    {
+        outputCapture output;
+        answer<QFileDialog> rejected([](QFileDialog& shown) { shown.reject(); });
+        QVERIFY(!edit->window()->close());
+        QCOMPARE(rejected.count, 1);
+    }
+    answer<QFileDialog> dialog([&](QFileDialog& shown) {
+        shown.findChild<QLineEdit*>()->setText(path("new name.prg"));
+        QTest::keyClick(shown.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    QVERIFY(edit->window()->close());
+    QTRY_VERIFY(edit.isNull());
+    QCOMPARE(read("new name.prg"), QByteArray("yold"));
 }
 
 void editorFiles::closeAndSaveFails() {
@@ -450,6 +658,29 @@ void editorFiles::commandOpensTheEditor() {
     QCOMPARE(command("EDIT COMM CP1251 old.prg"), int(localErrorTypeOK));
     QCOMPARE(shown(), (QStringList{"new.prg|", "old.prg|сообщить"}));
     localHost::install(nullptr);
+}
+
+void editorFiles::programOpensTheEditor() {
+    localVclHost host;
+    localHost::install(&host);
+    localContextUTF8 context;
+    write("shown.prg", "x=1;");
+    write("opens.prg", "EDIT COMMAND shown.prg ;\ny = 2;\n");
+    int status = localErrorTypeOK;
+    std::uint32_t pos = 0;
+    outputCapture output;
+    QVERIFY(localInterpretatorUTF8::scanStringGetOperatorAndExec(status, u"DO opens.prg", pos, &context,
+                                                                 false));
+    localHost::install(nullptr);
+    // The command acts when the program is compiled, too.
+    int windows = 0;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<localMainWindow*>(window) != nullptr) {
+            QCOMPARE(text(*window->findChild<localVclWidgetEditor*>()), QString("x=1;"));
+            ++windows;
+        }
+    }
+    QCOMPARE(windows, 2);
 }
 
 void editorFiles::commandWithFolder() {

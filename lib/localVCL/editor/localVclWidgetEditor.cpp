@@ -2,9 +2,6 @@
 
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
 #include <QFontMetrics>
 #include <QMessageBox>
 #include <QTextBlock>
@@ -13,13 +10,8 @@
 #include <memory>
 
 #include "editor/localVclWidgetEditorLineNumberArea.h"
-#include "localInterpretatorUTF8/file/localFile.h"
-#include "localInterpretatorUTF8/file/localStd.h"
-#include "localInterpretatorUTF8/platform/localPlatform.h"
-#include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localVCL/editor/localVclPrgTextHighlighter.h"
-#include "localVCL/editor/localVclTextSaveDialog.h"
 #include "localVCL/font/localVclFont.h"
 #include "localVCL/text/localVclText.h"
 
@@ -50,26 +42,6 @@ QPalette editorPalette(QPalette palette) {
     // The selection looks the same while a search dialog has the focus.
     palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x2a, 0x6c, 0xc0));
     return palette;
-}
-
-// Where the dialog for a missing file starts: the folder of samples, or the one beside the program
-// where that is not there.
-QString samplesFolder() {
-    const QString samples = QStringLiteral("E:\\Work\\4\\prgTest");
-    const QString beside =
-        localVclQString(localStd::pathJoin(localStd::binaryPath(), u"prgTest"));
-    for (const QString& folder : {samples, QStringLiteral("prgTest"), beside}) {
-        if (QDir(folder).exists()) {
-            return folder;
-        }
-    }
-    return {};
-}
-
-// What the system says about a file that cannot be read.
-QString readingErrorText(const std::u16string& fileName) {
-    QFile file(localVclQString(localPlatform::normalizedPath(fileName)));
-    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
 }
 
 }  // namespace
@@ -144,6 +116,7 @@ std::u16string localVclWidgetEditor::text() const {
 }
 
 void localVclWidgetEditor::textSet(std::u16string_view text) {
+    lossAgreed_ = 0;
     carriageReturns_.clear();
     for (std::size_t i = text.find(u"\r\n"); i != std::u16string_view::npos;
          i = text.find(u"\r\n", i + 1)) {
@@ -172,61 +145,7 @@ void localVclWidgetEditor::lineShow(int line) {
     centerCursor();
 }
 
-// Files -------------------------------------------------------------------------------------------
-
-bool localVclWidgetEditor::load(const std::u16string& fileName,
-                                localString::possibleCodePage codePage) {
-    std::u16string name = fileName;
-    if (!localPlatform::pathExists(name)) {
-        name = QFileDialog::getOpenFileName(isVisible() ? this : nullptr,
-                                            QStringLiteral("Open formFile "), samplesFolder(),
-                                            QStringLiteral("*.prg *.prg"))
-                   .toStdU16String();
-        if (name.empty()) {
-            return false;
-        }
-    }
-    name = trimBoth(name);
-    std::u16string text;
-    if (!fileRead(name, text, codePage)) {
-        writeLine(u"Error reading file  [" + name + u"] " +
-                  readingErrorText(name).toStdU16String());
-        return false;
-    }
-    textSet(text);
-    fileNameSet(std::move(name));
-    return true;
-}
-
-bool localVclWidgetEditor::saveSlot() {
-    if (!fileWrite(FileWriteMode::truncate, localString::codePageUtf8, text(), fileName_)) {
-        writeLine(u"Файл не сохранён!");
-        return false;
-    }
-    document()->setModified(false);
-    return true;
-}
-
-bool localVclWidgetEditor::saveAsSlot() {
-    std::u16string chosen =
-        localVclTextSaveDialog(localString::codePageUtf8, text(), QStringLiteral("SaveAs"),
-                               QStringLiteral("*.*"), localVclQString(fileName_), this);
-    if (chosen.empty()) {
-        writeLine(u"Файл не сохранён!");
-        return false;
-    }
-    fileNameSet(std::move(chosen));
-    document()->setModified(false);
-    return true;
-}
-
-// The title
-// -----------------------------------------------------------------------------------------
-
-void localVclWidgetEditor::fileNameSet(std::u16string fileName) {
-    fileName_ = std::move(fileName);
-    titleSet(localVclQString(fileName_));
-}
+// The title ---------------------------------------------------------------------------------------
 
 void localVclWidgetEditor::titleSet(const QString& title) {
     // The place of the mark of a text that is not saved; a name that holds those signs keeps them.
@@ -251,8 +170,7 @@ void localVclWidgetEditor::textChangedSlot() {
     modifiedShow();
 }
 
-// Closing
-// -------------------------------------------------------------------------------------------
+// Closing -----------------------------------------------------------------------------------------
 
 bool localVclWidgetEditor::windowMayClose() {
     if (!document()->isModified()) {

@@ -38,7 +38,8 @@ bool localVclWidgetEditor::keyPressed(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Period:
         case Qt::Key_Slash:
-            if (control) {
+            // On some keyboards, the Russian one among them, a sign needs Shift.
+            if (control || controlShift) {
                 commentSelection();
                 return true;
             }
@@ -94,6 +95,14 @@ bool localVclWidgetEditor::keyPressed(QKeyEvent* event) {
         case keyCyrillicS:
             if (control || controlShift) {
                 control ? saveSlot() : saveAsSlot();
+                return true;
+            }
+            break;
+        case Qt::Key_Y:
+            // Where the toolkit brings back what was undone by Ctrl+Shift+Z alone, that key is
+            // taken below.
+            if (control) {
+                redo();
                 return true;
             }
             break;

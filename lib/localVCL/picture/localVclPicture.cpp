@@ -22,13 +22,8 @@ QString localVclPixmapToBase64(const QPixmap& pixmap) {
     return QString::fromLatin1(png.toBase64());
 }
 
-QString localVclIconDirectory() {
-    const QString firstChoice = QStringLiteral("E:\\Work\\4\\lib\\icons");
-    return QDir(firstChoice).exists() ? firstChoice : QCoreApplication::applicationDirPath();
-}
-
 QPixmap localVclPixmap(const QString& fileName) {
-    const QPixmap pixmap(QDir(localVclIconDirectory()).filePath(fileName));
+    const QPixmap pixmap(QDir(QCoreApplication::applicationDirPath()).filePath(fileName));
     return pixmap.isNull() ? QPixmap(localIconPath(fileName)) : pixmap;
 }
 

@@ -56,11 +56,17 @@ public:
 
     CloseAnswer nextAnswer = CloseAnswer::cancel;
     int asked = 0;
+    bool loses = false;     // the answer to the question about characters that the file cannot hold
+    QStringList questions;  // about such characters
 
 protected:
     CloseAnswer closeAsk() override {
         ++asked;
         return nextAnswer;
+    }
+    bool lossAsk(const QString& question) override {
+        questions.append(question);
+        return loses;
     }
 };
 

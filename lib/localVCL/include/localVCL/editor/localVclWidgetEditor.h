@@ -42,8 +42,8 @@ public:
     // has reported, or nothing was chosen. The window owns the editor and goes when it is closed.
     static localVclWidgetEditor* open(const std::u16string& fileName,
                                       localString::possibleCodePage codePage);
-    // Shows the editor by the window operation, at a place on the screen or where the system chooses. The
-    // window owns it from then on.
+    // Shows the editor by the window operation, at a place on the screen or where the system
+    // chooses. The window owns it from then on.
     void openWindow(std::optional<QPoint> place = std::nullopt);
 
     const std::u16string& fileName() const { return fileName_; }
@@ -80,8 +80,9 @@ public slots:
     // was when nothing was chosen or the file could not be read, which the standard output stream
     // tells.
     bool load(const std::u16string& fileName, localString::possibleCodePage codePage);
-    // Writes the file in UTF-8, whatever code page it was read in. Meant. A failure shows the box
-    // of the file writer and a line on the standard output stream.
+    // Writes the file in UTF-8 with line feeds, whatever code page and line ends it was read in.
+    // Meant. Asks first about characters that the file cannot hold. A failure shows the box of the
+    // file writer and a line on the standard output stream; a refusal only the line.
     bool saveSlot();
     // As saveSlot under a name that a person chooses, which becomes the file's.
     bool saveAsSlot();
@@ -90,8 +91,9 @@ public slots:
     void updateLineNumberArea(const QRect& rect, int dy);
 
 protected:
-    // Asks a person; tests answer by overriding it.
+    // Ask a person; tests answer by overriding them.
     virtual CloseAnswer closeAsk();
+    virtual bool lossAsk(const QString& question);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -109,13 +111,19 @@ private:
     void fileNameSet(std::u16string fileName);
     void titleSet(const QString& title);
     void modifiedShow();
+    // The name under which the file is found, also when a program has changed the working directory.
+    std::u16string fileWritten() const;
+    // Whether a text may be saved: the file can hold all of it, or a person agrees to what is lost.
+    bool lossAgreed(std::u16string_view written);
 
     localVclWidgetEditorLineNumberArea* lineNumberArea_ = nullptr;
     localVclPrgTextHighlighter* highlighter_ = nullptr;
     std::u16string fileName_;
+    std::u16string folder_;  // the working directory when the file got its name
     std::vector<std::u16string> findHistory_;  // most recent last
     QTextDocument::FindFlags findFlags_;
     // Where the text given had a carriage return that the text on screen has not.
     std::vector<std::size_t> carriageReturns_;
+    std::size_t lossAgreed_ = 0;  // characters that a person has agreed to lose
     QPointer<QWidget> openedWindow_;
 };

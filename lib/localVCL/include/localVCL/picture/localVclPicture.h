@@ -11,10 +11,7 @@ QPixmap localVclPixmapFromBase64(QStringView text);
 // The picture as base64 text of a PNG; empty for a null picture.
 QString localVclPixmapToBase64(const QPixmap& pixmap);
 
-// The folder of pictures that go before those built into the program: "E:\Work\4\lib\icons" if it
-// is there, else the program's own.
-QString localVclIconDirectory();
-// A picture by its file name, from that folder or from the program.
+// A picture by its file name: from the program's folder, else built into the program.
 QPixmap localVclPixmap(const QString& fileName);
 // The program's own icon, "logoKV_3232.png".
 QIcon localVclProgramIcon();
