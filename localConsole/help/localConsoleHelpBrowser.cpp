@@ -9,16 +9,18 @@ constexpr const char16_t* notFound = u"Страница не найдена!";
 
 // A link's text with everything readable: a key may hold letters that a URL writes as numbers.
 QString textOf(const QUrl& link) {
-    if (link.hasFragment() && link.toString(QUrl::RemoveFragment).isEmpty()) {
-        return u'#' + link.fragment(QUrl::FullyDecoded);
-    }
-    return link.toString();
+    return QUrl::fromPercentEncoding(link.toEncoded());
 }
 
 }  // namespace
 
 localConsoleHelpBrowser::localConsoleHelpBrowser(QWidget* parent) : QTextBrowser(parent) {
     setWindowIcon(localVclProgramIcon());
+    // The pages' colours are made for white paper, whatever the desktop is like.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
     connect(this, &QTextBrowser::anchorClicked, this, &localConsoleHelpBrowser::onAnchorClicked);
     setOpenLinks(false);
     setHtml(localVclQString(notFound));

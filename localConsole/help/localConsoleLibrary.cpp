@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize browserSize{760, 520};  // pixels
+constexpr QSize browserSize{820, 660};  // pixels
 constexpr const char16_t* startPage = u"#main";
 
 void showBrowser(std::unique_ptr<QTextBrowser> browser, const QString& title) {

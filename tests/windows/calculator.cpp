@@ -70,6 +70,9 @@ private slots:
         row("", 0, {});
         row("1 2 3", 123, {});
         row("0 0 7", 7, {});
+        row("5 00 0", 5000, {});
+        row("00 7", 7, {});
+        row("1 . 00 5", 1.005, {});
         row("1 . 0 5", 1.05, {});
         row(". 5", 0.5, {});
         row("1 . 2 . 3", 1.2, {});
@@ -86,8 +89,12 @@ private slots:
         row("2 + 3 = 7", 7, {});
         row("2 + 3 = + 1 =", 6, {});
         row("1 CE", 0, {});
+        row("1 . CE 5", 5, {});
         row("1 + 2 CE", 0, {});
         row("1 + 2 CE 3 + 4 =", 7, {});
+        row("1 - 2 - 3 - 4 * 5 / 8 + 9 =", 4, {});
+        row("7 - =", 7, {});
+        row("2 * 3 = = 5 +", 0, {"0", "+"});
         // Numbers go onto the stack with 6 digits.
         row("1 / 3 +", 1.0 / 3, {"0.333333", "+"});
         row("1 2 3 4 5 6 7 + 1 =", 1234571, {});
@@ -118,7 +125,7 @@ private slots:
     void buttonsWithoutAFunctionAreOperatorsThatGiveZero_data() {
         QTest::addColumn<QString>("text");
         for (const char* const text :
-             {"00", "%", "1/x", "+/-", "<-", "C", "M", "MC", "MR", "M+", "M-"}) {
+             {"%", "1/x", "+/-", "<-", "C", "M", "MC", "MR", "M+", "M-"}) {
             QTest::newRow(text) << QString::fromUtf8(text);
         }
     }
@@ -139,6 +146,12 @@ private slots:
         QVERIFY(qIsInf(calc.value()));
         QCOMPARE(calc.shown(), 0.0);
         QVERIFY(saveScreenshot(calc, QStringLiteral("calculatorError")));
+        // What is computed from it is no number either, and an empty display is none of it.
+        calc.press("+ 1 =");
+        QVERIFY(qIsInf(calc.value()));
+        calc.press("- 3 * 0 =");
+        QVERIFY(qIsNaN(calc.value()));
+        QCOMPARE(calc.shown(), 0.0);
         calc.press("CE 1 + 1 =");
         QCOMPARE(calc.shown(), 2.0);
     }
@@ -174,6 +187,53 @@ private slots:
         QCOMPARE(lines[3], QString());
     }
 
+    void everyKeyClicksItsButton_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("text");
+        const auto row = [](int key, const char* text) {
+            QTest::addRow("%x as %s", unsigned(key), text) << key << QString::fromLatin1(text);
+        };
+        for (int digit = 0; digit < 10; ++digit) {
+            row(Qt::Key_0 + digit, QByteArray::number(digit).constData());
+        }
+        row(Qt::Key_Period, ".");
+        row(Qt::Key_Plus, "+");
+        row(Qt::Key_Minus, "-");
+        row(Qt::Key_Asterisk, "*");
+        row(Qt::Key_Slash, "/");
+        row(Qt::Key_Equal, "=");
+        row(Qt::Key_Enter, "=");
+        row(Qt::Key_Return, "=");
+        row(Qt::Key_Backspace, "<-");
+        row(Qt::Key_Delete, "CE");
+    }
+    void everyKeyClicksItsButton() {
+        QFETCH(int, key);
+        QFETCH(QString, text);
+        shownCalc calc;
+        QStringList clicked;
+        for (QPushButton* const button : calc.findChildren<QPushButton*>()) {
+            connect(button, &QPushButton::clicked, &calc,
+                    [&clicked, button] { clicked.append(button->text()); });
+        }
+        const outputCapture output;
+        // As a keyboard of Russian letters sends them, and with the keys of the number block.
+        QTest::keyClick(&calc, Qt::Key(key));
+        QTest::keyClick(&calc, Qt::Key(key), Qt::KeypadModifier);
+        QCOMPARE(clicked, QStringList({text, text}));
+        QTest::keyClick(&calc, Qt::Key(key), Qt::ControlModifier | Qt::KeypadModifier);
+        QCOMPARE(clicked.size(), 2);
+    }
+
+    void lettersOfTheRussianKeyboardClickNothing() {
+        shownCalc calc;
+        const outputCapture output;
+        QTest::sendKeyEvent(QTest::Click, &calc, Qt::Key(0x42e), QString(QChar(0x44e)), {});
+        QCOMPARE(output.text(), QString::number(0x42e) + '\n');
+        QCOMPARE(calc.typed(), QString());
+        QCOMPARE(calc.texts(), QStringList());
+    }
+
     void keysWithCtrlAndOtherKeysDoNothing() {
         shownCalc calc;
         const outputCapture output;
@@ -206,6 +266,13 @@ private slots:
             calc.button("9")->click();
         }
         QVERIFY(!calc.findChild<QLCDNumber*>()->checkOverflow(calc.shown()));
+        calc.press("CE");
+        for (int i = 0; i < 400; ++i) {
+            calc.button("9")->click();
+        }
+        // So many nines are no number any more; the display says so.
+        QVERIFY(qIsInf(calc.value()));
+        QCOMPARE(calc.shown(), 0.0);
     }
 };
 

@@ -168,6 +168,33 @@ private slots:
         QCOMPARE(browser.keys(), three);
     }
 
+    void backspaceFromTheListStandsForAPage() {
+        shownBook browser;
+        browser.goTo(u"#none");
+        browser.goTo(u"#console");
+        QCOMPARE(browser.keys(), QStringList({"#main", "#404", "#allPages", "#console"}));
+        // The list is no page of the book, so it comes again by way of the missing page.
+        QTest::keyClick(&browser, Qt::Key_Backspace);
+        QCOMPARE(browser.keys(), QStringList({"#main", "#404", "#allPages"}));
+        QVERIFY(browser.isOn("Это полный список страниц."));
+        browser.goTo(u"#none");
+        QCOMPARE(browser.keys(), QStringList({"#main", "#404", "#allPages", "#404", "#allPages"}));
+        QTest::keyClick(&browser, Qt::Key_Backspace);
+        QCOMPARE(browser.keys(), QStringList({"#main", "#404", "#allPages", "#404", "#allPages"}));
+        QVERIFY(browser.isOn("Это полный список страниц."));
+    }
+
+    void pagesAreOnWhitePaperOnADarkDesktop() {
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(QPalette(Qt::white, Qt::black));
+        shownBook browser;
+        QVERIFY(QTest::qWaitForWindowExposed(&browser));
+        const QColor corner = browser.viewport()->grab().toImage().pixelColor(0, 0);
+        QApplication::setPalette(before);
+        QCOMPARE(corner, QColor(Qt::white));
+        QCOMPARE(browser.palette().color(QPalette::Text), QColor(Qt::black));
+    }
+
     void otherKeysScroll() {
         shownBook browser;
         browser.resize(400, 120);

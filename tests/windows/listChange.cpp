@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -183,14 +185,80 @@ private slots:
     void numberFieldTakesNumbersOnly() {
         const auto value = goods();
         shownDialog shown(*value);
-        shown.retype(1, "1a2,3.4");
-        QCOMPARE(shown.lines[1]->text(), QStringLiteral("123.4"));
+        shown.retype(1, "1a2.3.4 5");
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("12.345"));
         shown.press("Apply");
-        QCOMPARE(shown.list->valueAt(2).num, 123.4);
+        QCOMPARE(shown.list->valueAt(2).num, 12.345);
+        // A comma is not lost, or 12,5 would become 125.
+        shown.retype(1, "-12,5");
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("-12.5"));
+        shown.press("Apply");
+        QCOMPARE(shown.list->valueAt(2).num, -12.5);
         shown.lines[1]->clear();
         QTest::keyClicks(shown.lines[1], "-");
         shown.press("OK");
         QCOMPARE(shown.list->valueAt(2).num, 0.0);
+    }
+
+    void cancelKeepsWhatWasApplied() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(0, "Болты");
+        shown.press("Apply");
+        shown.retype(0, "Шурупы");
+        shown.retype(1, "9");
+        shown.press("Cancel");
+        QVERIFY(!shown.dialog.isVisible());
+        QCOMPARE(shown.textAt(1), QStringLiteral("Болты"));
+        QCOMPARE(shown.list->valueAt(2).num, 0.1);
+    }
+
+    void typesAndOtherValuesAreKept() {
+        const auto value = goods();
+        localValueList* const list = localValueList::of(*value);
+        list->valueAppend(localText(u"12"), u"Код");
+        list->itemAppend(u"Архив").setBoolean(false);
+        list->valueAppend(1.0 / 3, u"Доля");
+        list->valueAppend(1e21, u"Число");
+        shownDialog shown(*value);
+        const void* const inner = list->valueAt(4).pointer;
+        shown.retype(3, "0013");
+        shown.retype(5, "2e3");
+        shown.press("OK");
+        QCOMPARE(int(list->valueAt(5).type), int(localValueTypeSTRING));
+        QCOMPARE(shown.textAt(5), QStringLiteral("0013"));
+        QCOMPARE(int(list->valueAt(6).type), int(localValueTypeBOOLEAN));
+        QCOMPARE(list->valueAt(6).num, 0.0);
+        QCOMPARE(list->valueAt(7).num, 1.0 / 3);
+        QCOMPARE(int(list->valueAt(8).type), int(localValueTypeNUMBER));
+        QCOMPARE(list->valueAt(8).num, 2000.0);
+        QCOMPARE(list->valueAt(4).pointer, inner);
+        QCOMPARE(list->presentationGet(5).string(), std::u16string(u"Код"));
+    }
+
+    void emptyListHasNoRows() {
+        localValueDescription value;
+        value.objectBind(new localValueList, localValueList::classDeclaration());
+        shownDialog shown(value);
+        QVERIFY(shown.dialog.findChildren<QLabel*>().isEmpty());
+        shown.press("Apply");
+        QVERIFY(shown.dialog.isVisible());
+        shown.press("OK");
+        QCOMPARE(shown.list->size(), std::size_t(0));
+    }
+
+    void longTextsAreNotCut() {
+        localValueDescription value;
+        auto* const list = new localValueList;
+        value.objectBind(list, localValueList::classDeclaration());
+        const std::u16string text = std::u16string(100000, u'я') + u"\nвторая строка";
+        list->valueAppend(localText(text), u"Текст");
+        shownDialog shown(value);
+        shown.lines[0]->setFocus();
+        QTest::keyClick(shown.lines[0], Qt::Key_End);
+        QTest::keyClicks(shown.lines[0], "!");
+        shown.press("OK");
+        QVERIFY(list->valueAt(1).wStr.string() == text + u'!');
     }
 
     void listThatBecameShorterIsWrittenAsFarAsItGoes() {
@@ -224,14 +292,34 @@ private slots:
         localValueDescription value;
         auto* const list = new localValueList;
         value.objectBind(list, localValueList::classDeclaration());
-        for (int i = 0; i < 200; ++i) {
+        for (int i = 0; i < 1000; ++i) {
             list->valueAppend(double(i), localText(u"Ряд"));
         }
+        std::u16string caption;
+        while (caption.size() < 400) {
+            caption += u"Наименование ";
+        }
+        list->valueAppend(0.0, localText(caption));
         shownDialog shown(value);
         QVERIFY(shown.dialog.height() < 800);
-        shown.retype(199, "-1");
+        // All of a row is in sight without scrolling sideways.
+        auto* const scroll = shown.dialog.findChild<QScrollArea*>();
+        QCOMPARE(scroll->horizontalScrollBar()->maximum(), 0);
+        // Tab and Shift+Tab take the view along.
+        QVERIFY(QTest::qWaitForWindowActive(&shown.dialog));
+        shown.lines[0]->setFocus();
+        for (int i = 0; i < 500; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY(shown.lines[500]->hasFocus());
+        QVERIFY(!shown.lines[500]->visibleRegion().isEmpty());
+        QVERIFY(shown.lines[0]->visibleRegion().isEmpty());
+        QVERIFY(shown.dialog.width() < 800);
+        QVERIFY(saveScreenshot(shown.dialog, QStringLiteral("listChangeLong")));
+        shown.retype(999, "-1");
         shown.press("OK");
-        QCOMPARE(list->valueAt(200).num, -1.0);
+        QCOMPARE(list->valueAt(1000).num, -1.0);
+        QCOMPARE(list->valueAt(999).num, 998.0);
     }
 
     void otherValuesHaveNoRows() {

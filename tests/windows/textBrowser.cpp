@@ -178,6 +178,16 @@ private slots:
         QCOMPARE(browser.current(), 1);
     }
 
+    void linkWithSignsOfUrlsLeadsToItsFile() {
+        write("10 % + 5.htm", "done");
+        localVclTextBrowser browser;
+        browser.setText("<a href=\"10 % + 5.htm\">first</a>");
+        browser.show();
+        QVERIFY(clickLink(browser, "first"));
+        QCOMPARE(browser.toPlainText(), QStringLiteral("done"));
+        QCOMPARE(browser.names(), QStringList({"10 % + 5.htm"}));
+    }
+
     void linkToAnUnreadableFileGivesAText() {
         localVclTextBrowser browser;
         browser.setText("<a href=\"missing.htm\">first</a>");

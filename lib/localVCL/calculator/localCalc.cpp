@@ -5,6 +5,7 @@
 #include <QLCDNumber>
 #include <QPushButton>
 
+#include <algorithm>
 #include <cmath>
 
 #include "localInterpretatorUTF8/text/localNumberText.h"
@@ -30,8 +31,10 @@ QString stackText(double number) {
     return QString::number(number, 'g', precision);
 }
 
-bool isDigit(const QString& text) {
-    return text.size() == 1 && text.front() >= u'0' && text.front() <= u'9';
+// "1/x" holds a digit, but is no part of a number.
+bool isDigits(const QString& text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter >= u'0' && letter <= u'9'; });
 }
 
 // A button that is no operator of arithmetic gives 0, "=" among them.
@@ -124,13 +127,17 @@ void localCalc::showTyped(const QString& text) {
     if (text.endsWith(point)) {
         display_->display(text);
     } else {
-        display_->display(numberOf(text));
+        displayNumber(numberOf(text));
     }
 }
 
 void localCalc::showNumber(double number) {
     typed_.clear();
     shown_ = number;
+    displayNumber(number);
+}
+
+void localCalc::displayNumber(double number) {
     // The display has no segments for the text of infinity.
     if (std::isfinite(number)) {
         display_->display(number);
@@ -154,15 +161,15 @@ void localCalc::slotButtonClicked() {
     if (text == clearEntry) {
         stack_.clear();
         showEmpty();
-    } else if (isDigit(text) || text == point) {
+    } else if (isDigits(text) || text == point) {
         showTyped(typed_ + text);
     } else {
         operatorClicked(text);
     }
 }
 
-// "00", "%", "1/x", "+/-", "<-", "C" and the memory buttons have no function of their own and come
-// here as well. Meant.
+// "%", "1/x", "+/-", "<-", "C" and the memory buttons have no function of their own and come here
+// as well. Meant.
 void localCalc::operatorClicked(const QString& operation) {
     if (stack_.size() < 2) {
         stack_.push_back(stackText(value()));

@@ -8,7 +8,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <limits>
 
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
@@ -17,15 +20,35 @@
 
 namespace {
 
-constexpr int fieldWidth = 240;  // pixels, at least
+constexpr int fieldWidth = 240;    // pixels, at least
+constexpr int captionWidth = 280;  // pixels, at most
 
 QLabel* captionOf(const localText& presentation) {
     auto* const caption =
         new QLabel(QStringLiteral("<B>") + localVclQString(presentation).toHtmlEscaped() +
                    QStringLiteral("</B>"));
     caption->setTextFormat(Qt::RichText);
+    if (caption->sizeHint().width() > captionWidth) {
+        caption->setWordWrap(true);
+        caption->setFixedWidth(captionWidth);
+    }
     return caption;
 }
+
+// A number with a point; a comma, which a person may be used to, becomes one.
+class NumberValidator : public QDoubleValidator {
+public:
+    explicit NumberValidator(QObject* parent) : QDoubleValidator(parent) {
+        QLocale plain = QLocale::c();
+        plain.setNumberOptions(QLocale::RejectGroupSeparator);
+        setLocale(plain);
+    }
+
+    State validate(QString& input, int& cursor) const override {
+        input.replace(u',', u'.');
+        return QDoubleValidator::validate(input, cursor);
+    }
+};
 
 // The shortest text that is read back as the same number.
 QString numberText(double number) {
@@ -56,6 +79,9 @@ DemoDialogForListOfValuesChange::DemoDialogForListOfValuesChange(const QString& 
     scroll->setWidgetResizable(true);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(rows);
+    // Rows are in sight as a whole, also beside the scroll bar.
+    scroll->setMinimumWidth(rows->minimumSizeHint().width() +
+                            scroll->verticalScrollBar()->sizeHint().width());
 
     auto* const buttons = new QDialogButtonBox(this);
     const auto addButton = [&](const QString& text, QDialogButtonBox::ButtonRole role) {
@@ -97,14 +123,13 @@ QWidget* DemoDialogForListOfValuesChange::fieldOf(const localValueDescription& v
 }
 
 QWidget* DemoDialogForListOfValuesChange::lineOf(const QString& text, bool isNumber, Write& write) {
-    auto* const line = new QLineEdit(text);
+    auto* const line = new QLineEdit;
+    // The line's own limit would cut a long text.
+    line->setMaxLength(std::numeric_limits<int>::max());
+    line->setText(text);
     line->setMinimumWidth(fieldWidth);
     if (isNumber) {
-        auto* const validator = new QDoubleValidator(line);
-        QLocale plain = QLocale::c();
-        plain.setNumberOptions(QLocale::RejectGroupSeparator);
-        validator->setLocale(plain);
-        line->setValidator(validator);
+        line->setValidator(new NumberValidator(line));
         line->setAlignment(Qt::AlignRight);
     }
     write = [line, isNumber](localValueDescription& value) {

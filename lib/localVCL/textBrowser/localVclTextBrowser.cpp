@@ -11,8 +11,9 @@ const QString startPage = QStringLiteral(
     " F1 или команда HELP выведет краткую помощь по основным командам.\t<BR/>"
     " Alt+F1 или команда MANUAL откроет интерактивную систему помощи (данное окно).\t<BR/> <BR/>");
 
+// A name may hold letters that a URL writes as numbers.
 QString fileNameOf(const QUrl& link) {
-    return link.isLocalFile() ? link.toLocalFile() : link.toString();
+    return link.isLocalFile() ? link.toLocalFile() : QUrl::fromPercentEncoding(link.toEncoded());
 }
 
 }  // namespace

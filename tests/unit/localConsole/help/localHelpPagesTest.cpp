@@ -168,11 +168,53 @@ TEST_F(helpPages, methodPageHasAllItsParts) {
                                   "</body>\n"));
 }
 
-TEST_F(helpPages, methodWithoutSeeAlsoLinksToItsClass) {
-    ASSERT_TRUE(read(R"({"class": {"X": {"method": {"A": {"nameEn": "A"}}}}})"));
-    EXPECT_THAT(page("#class:X:method:A"),
-                EndsWith("<i><B>Ссылки:</B></i><BR>\n<BR/>\n"
-                         "<a href=\"#class:X\" >класс X</a>\n<BR/>\n</body>\n"));
+TEST_F(helpPages, methodWithNothingHasAllItsPartsAndALinkToItsClass) {
+    ASSERT_TRUE(read(R"({"class": {"X": {"method": {"A": {}}}}})"));
+    EXPECT_EQ(page("#class:X:method:A"),
+              style + std::string("<body>\n"
+                                  "<a href=\"#main\">Главная</a><BR/>\n"
+                                  "<BR/>\n"
+                                  "<pre><a href=\"#class:X\" >класс X</a>\n"
+                                  "</pre>"
+                                  "<i>метод</i> <functionName></functionName> <i>или</i> "
+                                  "<functionName></functionName> <BR/><BR/>\n"
+                                  "<i><B>Синтаксис:</B></i> <BR/><BR/>\n"
+                                  "<pre></pre>"
+                                  "<BR/>\n"
+                                  "<i><B>Параметры:</B></i> <BR/>\n"
+                                  "<BR/>\n"
+                                  "<i><B>Возвращаемое значение:</B></i><BR/>\n"
+                                  "<BR>\n"
+                                  "<BR/>\n"
+                                  "<i><B>Описание:</B></i><BR/>\n"
+                                  "<BR>\n"
+                                  "<BR/>\n"
+                                  "<i><B>Пример:</B></i><BR>\n"
+                                  "<BR/>\n"
+                                  "<pre><BR>\n"
+                                  "</pre>"
+                                  "<i><B>Ссылки:</B></i><BR>\n"
+                                  "<BR/>\n"
+                                  "<a href=\"#class:X\" >класс X</a>\n"
+                                  "<BR/>\n"
+                                  "</body>\n"));
+}
+
+TEST_F(helpPages, classWithNothingHasAPage) {
+    ASSERT_TRUE(read(R"({"class": {"X": {}, "": {}}})"));
+    EXPECT_THAT(keys(), ElementsAre("#class:X", "#class:"));
+    EXPECT_EQ(page("#class:X"), style + std::string("<body>\n"
+                                                    "<a href=\"#main\">Главная</a><BR/>\n"
+                                                    "<BR/>\n"
+                                                    "X<BR/>\n"
+                                                    "<BR/>\n"
+                                                    "Это класс X<BR/>\n"
+                                                    "<BR/>\n"
+                                                    "<BR/>\n"
+                                                    "<BR/>\n"
+                                                    "Доступные методы:<BR/>\n"
+                                                    "<BR/>\n"
+                                                    "</body>\n"));
 }
 
 TEST_F(helpPages, whatShouldBeATableAndIsNoneIsSkipped) {
@@ -190,6 +232,19 @@ TEST_F(helpPages, scalarThatIsATableShowsTheWordForItsType) {
     ASSERT_TRUE(read(R"({"main": {}, "class": {"A": {"text": {"x": "y"}}}})"));
     EXPECT_EQ(page("#main"), style + std::string("<body>\nТАБЛИЦАЗНАЧЕНИЙ</body>\n"));
     EXPECT_THAT(page("#class:A"), HasSubstr("<BR/>\nТАБЛИЦАЗНАЧЕНИЙ<BR/>\n"));
+    ASSERT_TRUE(read(R"({"class": {"A": {"method": {"M": {"nameEn": {}, "nameRu": {},
+        "syntax": {}, "parameter": {"p": {}}, "returnValue": {}, "description": {},
+        "example": {}, "seeAlso": {"s": {}}}}}}})"));
+    const std::string method = page("#class:A:method:M");
+    for (const char* const part :
+         {"<functionName>ТАБЛИЦАЗНАЧЕНИЙ</functionName> <i>или</i> "
+          "<functionName>ТАБЛИЦАЗНАЧЕНИЙ</functionName>",
+          "<pre>ТАБЛИЦАЗНАЧЕНИЙ</pre><BR/>\n", "&lt;p&gt; - ТАБЛИЦАЗНАЧЕНИЙ<BR/>\n",
+          "значение:</B></i><BR/>\nТАБЛИЦАЗНАЧЕНИЙ<BR>\n",
+          "Описание:</B></i><BR/>\nТАБЛИЦАЗНАЧЕНИЙ<BR>\n", "<pre>ТАБЛИЦАЗНАЧЕНИЙ<BR>\n</pre>",
+          "<a href=\"#s\" > ТАБЛИЦАЗНАЧЕНИЙ</a>\n"}) {
+        EXPECT_THAT(method, HasSubstr(part));
+    }
 }
 
 TEST_F(helpPages, emptyObjectGivesAnEmptyBook) {
@@ -208,6 +263,32 @@ TEST_F(helpPages, brokenTextLeavesTheBook) {
         EXPECT_THAT(keys(), ElementsAre("#main")) << broken;
         EXPECT_THAT(page("#main"), HasSubstr("\nm</body>")) << broken;
     }
+}
+
+TEST_F(helpPages, bookTooDeepIsRefused) {
+    ASSERT_TRUE(read(R"({"main": "m"})"));
+    std::string deep;
+    for (int i = 0; i < 100000; ++i) {
+        deep += R"({"class":)";
+    }
+    EXPECT_FALSE(read(deep + "{}" + std::string(100000, '}')));
+    EXPECT_THAT(output, HasSubstr("синтаксическая ошибка"));
+    EXPECT_THAT(keys(), ElementsAre("#main"));
+}
+
+TEST_F(helpPages, bookOfManyPagesIsWhole) {
+    constexpr int count = 10000;
+    std::string book = R"({"class": {"X": {"method": {)";
+    for (int i = 0; i < count; ++i) {
+        const std::string number = std::to_string(i);
+        book += (i == 0 ? "\"M" : ",\"M") + number + R"(": {"nameRu": "Р)" + number + "\"}";
+    }
+    ASSERT_TRUE(read(book + "}}}}"));
+    EXPECT_EQ(pages.table().rowsCount(), std::size_t(count + 1));
+    EXPECT_THAT(page("#class:X"), HasSubstr("method:M9999\">M9999()</a><BR/>\n</body>"));
+    EXPECT_THAT(page("#class:X:method:M9999"), HasSubstr("<functionName>Р9999</functionName>"));
+    EXPECT_THAT(localString::toUtf8(pages.allPages()),
+                EndsWith("<a href=\"#class:X:method:M9999\">Р9999</a><BR/>\n</body>\n"));
 }
 
 TEST_F(helpPages, firstOfEqualKeysIsThePage) {

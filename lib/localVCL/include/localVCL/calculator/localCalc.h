@@ -28,7 +28,7 @@ public:
     const std::vector<QString>& stack() const { return stack_; }
 
 public slots:
-    // Acts on the text of the button that sent the signal: CE, a digit, the point; all others are
+    // Acts on the text of the button that sent the signal: CE, digits, the point; all others are
     // operators.
     void slotButtonClicked();
 
@@ -43,6 +43,7 @@ private:
     void operatorClicked(const QString& operation);
     void showTyped(const QString& text);
     void showNumber(double number);
+    void displayNumber(double number);
     void showEmpty();
 
     QLCDNumber* display_;

@@ -13,9 +13,9 @@ class QWidget;
 // A row an item: its presentation in bold, and a field by the type of its value - a line for a
 // string or a number, a box to tick for a boolean. An object shows its text and is not changed.
 //
-// A field writes into the list what a person has changed in it, and nothing else; what is no number
-// counts as 0. "OK" and Enter write and accept, "Apply" writes and leaves the dialog open, "Cancel"
-// and Esc reject.
+// A field writes into the list what a person has changed in it, and nothing else; in a number a
+// comma becomes a point, and what is no number counts as 0. "OK" and Enter write and accept, "Apply"
+// writes and leaves the dialog open, "Cancel" and Esc reject.
 class DemoDialogForListOfValuesChange : public QDialog {
     Q_OBJECT
 
