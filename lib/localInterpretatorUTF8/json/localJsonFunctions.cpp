@@ -8,25 +8,36 @@
 namespace localHandlers {
 namespace {
 
-bool parsed(localCall& call, localSlot& list) {
+// Whether the argument could be read; `isArray` tells [] from {}, which are both read as lists.
+bool parsed(localCall& call, localSlot& list, bool& isArray) {
+    const std::u16string text(call.text(0));
     localInterpretatorUTF8::localPosition pos = 0;
-    return localInterpretatorUTF8::scanStringParseJson(call.status, std::u16string(call.text(0)),
-                                                       pos, list.asResult());
+    const bool done =
+        localInterpretatorUTF8::scanStringParseJson(call.status, text, pos, list.asResult());
+    isArray = done && text[pos - 1] != u'}';
+    return done;
 }
 
 }  // namespace
 
 bool parseJson(localCall& call) {
     localSlot list;
-    const bool done = parsed(call, list);
+    bool isArray = false;
+    const bool done = parsed(call, list, isArray);
     call.result.take(*list);
     return done;
 }
 
 bool valueFromJson(localCall& call) {
     localSlot list;
-    if (!parsed(call, list)) {
+    bool isArray = false;
+    if (!parsed(call, list, isArray)) {
         return false;
+    }
+    // The form of an empty list; {} is a typed form with nothing in it.
+    if (isArray && localValueList::of(*list)->items().empty()) {
+        call.result.take(*list);
+        return true;
     }
     localSlot value;
     const bool done =

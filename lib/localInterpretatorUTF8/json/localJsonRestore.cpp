@@ -1,4 +1,5 @@
 // Values from their typed form.
+#include <algorithm>
 #include <vector>
 
 #include "localInterpretatorUTF8/container/localValueList.h"
@@ -12,6 +13,17 @@ namespace {
 
 constexpr std::string_view functionName = "fromJsonValueList";
 
+// Whether a list that was read is the form of a list, with a presentation and a typed value for each item.
+bool isListForm(const localValueList& list) {
+    const auto& items = list.items();
+    return !items.empty() && std::all_of(items.begin(), items.end(), [](const auto& item) {
+        const localValueList* form = localValueList::of(item.value);
+        return item.presentation.view().empty() && form != nullptr &&
+               form->valueByPresentation(u"p") != nullptr &&
+               form->valueByPresentation(u"v") != nullptr;
+    });
+}
+
 class Restorer {
 public:
     Restorer(int& status, localContextUTF8* context) : status_(status), context_(context) {}
@@ -19,7 +31,10 @@ public:
     bool restore(const localValueList& form, localValueDescription& result) {
         const localValueList* forms = nullptr;
         localValueDescription first;
-        if (!value(form, first, forms)) {
+        if (isListForm(form)) {
+            first.objectBind(new localValueList, localValueList::classDeclaration());
+            forms = &form;
+        } else if (!value(form, first, forms)) {
             result.take(first);
             return false;
         }
