@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""The manual: its form, its links, its completeness, and its examples, which are run as programs.
+"""The manual: its form, its links, its completeness, and its examples, which are run.
 
 manual.py BOOK.json, with the terminal program in the environment variable KORVO_RUN.
 Writes how many pages and examples there are, and a line for each fault; fails on a fault.
+
+Examples that begin with the line in tests/support/manualWindowMark.txt need the window program: the
+test windows/manualExamples runs just these, and here run all the others.
 """
 import html
 import json
@@ -40,7 +43,9 @@ COMMANDS = ["?", "#", "DO", "HELP", "CLEAR MEMORY", "DIR", "DIRECTORY", "DISPLAY
 HIDDEN_FUNCTIONS = {"TOSTRING", "V1ALUETOSTRING", "З1НАЧЕНИЕВСТРОКУ"}
 
 COMMAND_CLASS = "Команды"
-NEEDS_PERSON = "// нужен человек"
+SUPPORT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "support")
+with open(os.path.join(SUPPORT, "manualWindowMark.txt"), encoding="utf-8") as markFile:
+    NEEDS_WINDOWS = markFile.read()
 PATIENCE = 50  # seconds for one example, even with sanitizers
 
 PAIRED_TAGS = ["B", "I", "P", "PRE", "UL", "LI", "H2", "TABLE", "TR", "TH", "TD"]
@@ -256,44 +261,18 @@ def toldLines(example):
     return [line.strip() for line in told]
 
 
-def isCommandLine(line):
-    """Whether a typed line begins with a command, cut short as allowed, or assigns."""
-    words = line.upper().split()
-    for command in COMMANDS:
-        wanted = command.split()
-        if len(words) >= len(wanted) and all(
-                word == full or len(word) >= 4 and full.startswith(word)
-                for word, full in zip(words, wanted)):
-            return True
-    return re.match(r"\w+ *=", line) is not None
-
-
-def checkTypedForPerson(place, example):
-    for line in example.split("\n")[1:]:
-        if not isCommandLine(line):
-            fault(place, f"no command: {line}")
-
-
-def runExample(className, ident, method):
-    place = f"{className}:{ident}:example"
-    example = html.unescape(method["example"])
-    needsPerson = example.split("\n")[0] == NEEDS_PERSON
-    typed = ""
-    if className == COMMAND_CLASS:
-        if needsPerson:
-            return checkTypedForPerson(place, example)
-        typed = example + "\n"
+def runExample(place, example, isTyped):
+    typed = example + "\n" if isTyped else ""
     with tempfile.TemporaryDirectory(dir=".", prefix="example.") as folder:
         work = os.path.join(folder, "work")
         os.mkdir(work)
         program = os.path.join(os.path.abspath(folder), "example.prg")
         with open(program, "w", encoding="utf-8") as file:
             file.write(example)
-        arguments = [] if typed else ["--check", program] if needsPerson else [program]
-        code, lines = run(*arguments, folder=work, typed=typed)
+        code, lines = run(*([] if isTyped else [program]), folder=work, typed=typed)
         left = os.listdir(work)
     output = [TRACE_TAIL.sub("", line).strip() for line in lines]
-    told = [] if needsPerson else toldLines(example)
+    told = toldLines(example)
     if code is None:
         fault(place, "does not end")
     elif code != 0:
@@ -302,6 +281,20 @@ def runExample(className, ident, method):
         fault(place, "\n    ".join(["tells", *told]) + "\n  " + "\n    ".join(["prints", *output]))
     if left:
         fault(place, "leaves " + " ".join(sorted(left)))
+
+
+def checkExamples(book):
+    examples = [(f"{className}:{ident}:example", html.unescape(method["example"]),
+                 className == COMMAND_CLASS) for className, ident, method in methodsOf(book)]
+    here = [page for page in examples if not page[1].startswith(NEEDS_WINDOWS)]
+    if not 0 < len(here) < len(examples):
+        fault("examples", f"{len(here)} of {len(examples)} are to be run here")
+    with ThreadPoolExecutor(2) as workers:
+        list(workers.map(lambda page: runExample(*page), here))
+    telling = [example for _, example, _ in here if toldLines(example)]
+    print(f"{len(pagesOf(book))} pages; {len(examples)} examples: {len(here)} run, "
+          f"{len(telling)} of them telling what they print, "
+          f"{len(examples) - len(here)} left to the window program")
 
 
 def checkBook(text):
@@ -317,15 +310,7 @@ def checkBook(text):
         return
     checkLinks(book)
     checkCompleteness(book)
-    methods = list(methodsOf(book))
-    with ThreadPoolExecutor(2) as workers:
-        list(workers.map(lambda page: runExample(*page), methods))
-    examples = [html.unescape(method["example"]) for _, _, method in methods]
-    complete = [example for example in examples if not example.startswith(NEEDS_PERSON)]
-    telling = [example for example in complete if toldLines(example)]
-    print(f"{len(pagesOf(book))} pages; {len(examples)} examples: {len(complete)} run, "
-          f"{len(telling)} of them telling what they print, "
-          f"{len(examples) - len(complete)} for a person only checked")
+    checkExamples(book)
 
 
 def main(fileName):
