@@ -3,6 +3,8 @@
 # Object files in the compiler cache serve every copy of the tree, wherever it lies.
 export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}"
 export CCACHE_NOHASHDIR="${CCACHE_NOHASHDIR:-1}"
+# With precompiled headers the cache works only so.
+export CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS:-pch_defines,time_macros}"
 
 # showProgress TITLE: eats ninja's lines and shows the count of steps on a terminal.
 showProgress() {

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTextBlock>
 
@@ -23,6 +22,7 @@
 #include "localVCL/library/localVclLibrary.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localMainWindow.h"
+#include "testFiles.h"
 
 namespace consoleTest {
 
@@ -46,16 +46,8 @@ public:
     int directories = 0;
 };
 
-inline void write(const QString& name, const QByteArray& bytes) {
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-inline QByteArray read(const QString& name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
-}
+using testFiles::read;
+using testFiles::write;
 
 // A text of JSON, in which double quotes are written as single ones: Qt's meta object compiler does not
 // get past raw strings.

@@ -14,6 +14,7 @@
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
 #include "localVCL/window/localMainWindow.h"
+#include "testFiles.h"
 #include "windowTest.h"
 
 namespace editorTest {
@@ -99,16 +100,8 @@ inline bool hasColour(const QTextCharFormat& format, Qt::GlobalColor color, bool
     return format.foreground() == QBrush(color) && format.fontItalic() == italic;
 }
 
-inline void write(const QString& name, const QByteArray& bytes) {
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-inline QByteArray read(const QString& name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
-}
+using testFiles::read;
+using testFiles::write;
 
 inline QString manyLines(int count) {
     QStringList lines;
