@@ -7,6 +7,7 @@
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace {
@@ -17,9 +18,12 @@ FileHandle opened(std::u16string_view name, const char* mode) {
     return {localPlatform::openFile(name, mode), &std::fclose};
 }
 
-// False also for a file that the memory cannot hold.
-bool readBytes(std::u16string_view fileName, std::string& bytes) {
-    const FileHandle file = opened(fileName, "rb");
+// More than any text is made of: a code unit takes at most two bytes of a file. Some files never end.
+constexpr std::size_t longestFile = localText::maxLength * 2;
+
+// False also for a file that no text or the memory can hold.
+bool readBytes(std::u16string_view fileName, const char* mode, std::string& bytes) {
+    const FileHandle file = opened(fileName, mode);
     if (file == nullptr) {
         return false;
     }
@@ -27,6 +31,9 @@ bool readBytes(std::u16string_view fileName, std::string& bytes) {
     std::size_t count = 0;
     try {
         while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
+            if (bytes.size() + count > longestFile) {
+                return false;
+            }
             bytes.append(block, count);
         }
     } catch (const std::exception&) {
@@ -43,12 +50,25 @@ std::string_view withoutFinalLineEnd(std::string_view bytes) {
     return bytes;
 }
 
+// Line by line, so that half a letter at the end of a line does not take the line end with it.
+std::u16string decodedLines(std::string_view bytes, localString::possibleCodePage codePage) {
+    std::u16string text;
+    text.reserve(bytes.size());
+    std::size_t end = 0;
+    while ((end = bytes.find('\n')) != std::string_view::npos) {
+        text += localString::fromBytes(bytes.substr(0, end), codePage);
+        text += u'\n';
+        bytes.remove_prefix(end + 1);
+    }
+    return text += localString::fromBytes(bytes, codePage);
+}
+
 }  // namespace
 
 bool fileRead(std::u16string_view fileName, std::u16string& text,
               localString::possibleCodePage codePage) {
     std::string bytes;
-    if (!readBytes(fileName, bytes)) {
+    if (!readBytes(fileName, codePage == localString::codePageBase64 ? "rb" : "r", bytes)) {
         return false;
     }
     if (codePage == localString::codePageBase64) {
@@ -66,7 +86,7 @@ bool fileRead(std::u16string_view fileName, std::u16string& text,
     } else {
         text += u'\n';
     }
-    text += localString::fromBytes(rest, codePage);
+    text += decodedLines(rest, codePage);
     return true;
 }
 
@@ -74,12 +94,11 @@ bool loadFileToText(int& status, std::u16string_view fileName, std::u16string& t
                     std::u16string_view codePageName) {
     text.clear();
     std::string bytes;
-    if (!readBytes(fileName, bytes)) {
+    if (!readBytes(fileName, "r", bytes)) {
         status = localErrorTypeFILENOTFOUND;
         return false;
     }
-    text = localString::fromBytes(withoutFinalLineEnd(bytes),
-                                  localString::codePageFromName(codePageName));
+    text = decodedLines(withoutFinalLineEnd(bytes), localString::codePageFromName(codePageName));
     return true;
 }
 
@@ -88,10 +107,13 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage,
     if (fileName.empty()) {
         return false;
     }
-    FileHandle file = opened(fileName, mode == FileWriteMode::append ? "ab" : "wb");
+    // Made first: memory that runs out must not leave an emptied file behind.
+    const std::string bytes = localString::toBytes(text, codePage);
+    const std::string how = (mode == FileWriteMode::append ? "a" : "w") +
+                            std::string(codePage == localString::codePageBase64 ? "b" : "");
+    FileHandle file = opened(fileName, how.c_str());
     bool written = file != nullptr;
     if (written) {
-        const std::string bytes = localString::toBytes(text, codePage);
         written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
         written = std::fclose(file.release()) == 0 && written;
     }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view functionName = "fromJsonValueList";
 
-// Whether a list that was read is the form of a list, with a presentation and a typed value for each item.
+// Whether a list that was read is the form of a list: a presentation and a typed value an item.
 bool isListForm(const localValueList& list) {
     const auto& items = list.items();
     return !items.empty() && std::all_of(items.begin(), items.end(), [](const auto& item) {

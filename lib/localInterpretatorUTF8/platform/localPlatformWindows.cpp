@@ -14,8 +14,11 @@ namespace {
 
 const auto processStart = std::chrono::steady_clock::now();
 
+// The name as a system call takes it. A unit 0 would cut a name short and so reach another file; the
+// empty name reaches none.
 std::string systemPath(std::u16string_view name) {
-    return fileNameToBytes(normalizedPath(name));
+    const std::string path = fileNameToBytes(normalizedPath(name));
+    return path.find('\0') == std::string::npos ? path : std::string();
 }
 
 bool isDirectory(const std::string& path) {
@@ -74,8 +77,12 @@ bool changeWorkingDirectory(std::u16string_view path) {
 
 std::vector<DirectoryEntry> directoryEntries(std::u16string_view path) {
     std::vector<DirectoryEntry> entries;
+    const std::string folder = systemPath(path);
+    if (folder.empty()) {
+        return entries;
+    }
     WIN32_FIND_DATAA found{};
-    const HANDLE search = FindFirstFileA((systemPath(path) + "\\*").c_str(), &found);
+    const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) {
         return entries;
     }

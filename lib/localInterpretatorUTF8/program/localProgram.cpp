@@ -101,6 +101,9 @@ bool textLoad(int& status, const std::u16string& text, localContextUTF8* context
     if (!compileAndRun(status, text, context, "textLoad", value)) {
         return false;
     }
-    status = value == ProgramValue::one ? localErrorTypeOK : localErrorTypeRESULTNOTONE;
-    return value == ProgramValue::one;
+    if (value != ProgramValue::one) {
+        return false;
+    }
+    status = localErrorTypeOK;
+    return true;
 }

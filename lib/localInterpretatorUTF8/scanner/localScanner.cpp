@@ -52,6 +52,20 @@ private:
     std::size_t count_ = 0;
 };
 
+// The arguments of a call that is only checked: how many there are.
+class ArgumentCount {
+public:
+    Nothing& add() {
+        ++count_;
+        return nothing_;
+    }
+    std::size_t count() const { return count_; }
+
+private:
+    std::size_t count_ = 0;
+    Nothing nothing_;
+};
+
 class Scanner {
 public:
     Scanner(int& status, const std::u16string& text, localPosition pos, localContextUTF8* context)
@@ -59,6 +73,8 @@ public:
 
     template <Mode mode>
     using Cell = std::conditional_t<mode == Mode::evaluate, localValueDescription, Nothing>;
+    template <Mode mode>
+    using Arguments = std::conditional_t<mode == Mode::evaluate, ArgumentList, ArgumentCount>;
 
     template <Mode mode>
     bool expression(Cell<mode>& cell) {
@@ -153,7 +169,7 @@ public:
     }
 
     template <Mode mode>
-    bool arguments(ArgumentList& args) {
+    bool arguments(Arguments<mode>& args) {
         bool haveValue = false;
         bool afterComma = false;
         while (!cursor.atEnd()) {
@@ -174,15 +190,8 @@ public:
                 continue;
             }
             const char16_t* before = cursor.at;
-            if constexpr (mode == Mode::evaluate) {
-                if (!expression<mode>(args.add())) {
-                    return false;
-                }
-            } else {
-                Nothing nothing;
-                if (!expression<mode>(nothing)) {
-                    return false;
-                }
+            if (!expression<mode>(args.add())) {
+                return false;
             }
             if (cursor.at == before) {
                 return fail(localErrorTypeSYNTAX);  // an empty name was read; there is no way on
@@ -350,7 +359,7 @@ private:
 
     template <Mode mode>
     bool call(bool started, std::u16string_view name, Cell<mode>& working, Cell<mode>& cell) {
-        ArgumentList args;
+        Arguments<mode> args;
         if (!arguments<mode>(args)) {
             return false;
         }
@@ -531,16 +540,26 @@ bool scanStringGetStringTokenAndEvaluete(const std::u16string& text, localPositi
 bool scanStringGetArguments(int& status, const std::u16string& text, localPosition& pos,
                             std::vector<localSlot>& args, localContextUTF8* context,
                             bool onlyCheck) {
+    requireContext(context, onlyCheck, u"scanStringGetArguments");
     args.clear();
     Scanner scanner(status, text, pos, context);
-    ArgumentList list;
-    const bool done =
-        onlyCheck ? scanner.arguments<Mode::check>(list) : scanner.arguments<Mode::evaluate>(list);
-    pos = scanner.cursor.position();
-    for (localValueDescription* value : list.values()) {
-        ++value->linkCounter;
-        args.emplace_back(value);
+    bool done = false;
+    if (onlyCheck) {
+        ArgumentCount checked;
+        done = scanner.arguments<Mode::check>(checked);
+        for (std::size_t i = 0; i < checked.count(); ++i) {
+            args.push_back(localSlot::reserve());
+            args.back()->setVal(1.0);
+        }
+    } else {
+        ArgumentList list;
+        done = scanner.arguments<Mode::evaluate>(list);
+        for (localValueDescription* value : list.values()) {
+            ++value->linkCounter;
+            args.emplace_back(value);
+        }
     }
+    pos = scanner.cursor.position();
     return done;
 }
 

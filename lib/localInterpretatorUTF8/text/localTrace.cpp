@@ -4,6 +4,24 @@
 
 #include "localInterpretatorUTF8/text/localString.h"
 
+namespace {
+
+// A very long text goes out in pieces: there may be no memory for its bytes as a whole. Code units are
+// converted one by one, so it may be cut anywhere.
+void write(std::u16string_view text, std::string_view end) {
+    constexpr std::size_t piece = 1 << 16;
+    while (text.size() > piece) {
+        std::cout << localString::toUtf8(text.substr(0, piece));
+        text.remove_prefix(piece);
+    }
+    std::string line = localString::toUtf8(text);
+    line += end;
+    std::cout.write(line.data(), static_cast<std::streamsize>(line.size()));
+    std::cout.flush();
+}
+
+}  // namespace
+
 std::string traceTail(std::string_view function, std::source_location place) {
     std::string_view file = place.file_name();
     if (const auto slash = file.find_last_of("/\\"); slash != std::string_view::npos) {
@@ -19,16 +37,9 @@ std::string traceTail(std::string_view function, std::source_location place) {
 }
 
 void writeLine(std::u16string_view text) {
-    std::string line = localString::toUtf8(text);
-    line += '\n';
-    std::cout.write(line.data(), static_cast<std::streamsize>(line.size()));
-    std::cout.flush();
+    write(text, "\n");
 }
 
 void traceLine(std::u16string_view text, std::string_view function, std::source_location place) {
-    std::string line = localString::toUtf8(text);
-    line += traceTail(function, place);
-    line += '\n';
-    std::cout.write(line.data(), static_cast<std::streamsize>(line.size()));
-    std::cout.flush();
+    write(text, traceTail(function, place) + '\n');
 }

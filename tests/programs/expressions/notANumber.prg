@@ -6,3 +6,5 @@ n = x-x;
 ? n<>n;                 // expect: ИСТИНА
 ? n<1;                  // expect: ЛОЖЬ
 ? n>1;                  // expect: ЛОЖЬ
+// It is neither 0 nor below, so it chooses the first branch.
+? n?1:1/0;              // expect: 1

@@ -9,5 +9,7 @@ STRINGAPPENDTOFILE("Яр","n.txt");
 ? BASE64FROMFILE("n.txt");       // expect: 0K/RgA==
 STRINGAPPENDTOFILE("Яр","p.txt","CP12");
 ? BASE64FROMFILE("p.txt");       // expect: 0K/RgA==
+STRINGAPPENDTOFILE("Яр","s.txt","cp1251");
+? BASE64FROMFILE("s.txt");       // expect: 0K/RgA==
 STRINGAPPENDTOFILE("Яр","e.txt","");
 ? BASE64FROMFILE("e.txt");       // expect: 0K/RgA==

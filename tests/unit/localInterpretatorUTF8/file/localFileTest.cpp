@@ -48,6 +48,9 @@ TEST_F(localFileTest, linesAreJoinedAndEmptyOnesAtTheStartVanish) {
         {"\n\n\n", u"", u"t\n\n\n", u"\n\n"},
         {"a\r\nb\r\n", u"a\r\nb\r", u"t\na\r\nb\r", u"a\r\nb\r"},
         {" \n", u" ", u"t\n ", u" "},
+        // Half a letter at the end of a line does not take the line end with it.
+        {"a\xD0\nb\xD1\n\nc\xD0\n", u"a\u00FF\nb\u00FF\n\nc\u00FF",
+         u"t\na\u00FF\nb\u00FF\n\nc\u00FF", u"a\u00FF\nb\u00FF\n\nc\u00FF"},
     };
     for (const Row& row : rows) {
         put("file.txt", row.bytes);

@@ -279,6 +279,17 @@ TEST_F(operatorTest, aSumOfStringsInAnotherCellIsTold) {
               std::vector<std::string>{"NOT!!! &result->wStr==&argFirst.wStr !!! "});
 }
 
+TEST_F(operatorTest, aStringBeforeNoTypeAtAllIsTold) {
+    for (const int type : {-1, 4}) {
+        output.clear();
+        localValueDescription second;
+        second.type = type;
+        EXPECT_EQ(binary(2, text(u"a"), second), failed(16)) << type;
+        EXPECT_EQ(output.lines(),
+                  std::vector<std::string>{"Не могу выполниить операцию номер [2]"});
+    }
+}
+
 TEST_F(operatorTest, onBooleans) {
     for (const double first : {0.0, 1.0}) {
         for (const double second : {0.0, 1.0}) {
@@ -292,6 +303,8 @@ TEST_F(operatorTest, onBooleans) {
     }
     // Any number but 0 counts as true, and equality compares the numbers.
     EXPECT_EQ(binary(7, boolean(-1), boolean(2)), is(true));
+    EXPECT_EQ(binary(14, boolean(-1), boolean(0)), is(true));
+    EXPECT_EQ(binary(14, boolean(0), boolean(-1)), is(true));
     EXPECT_EQ(binary(8, boolean(-1), boolean(1)), is(false));
 }
 

@@ -48,6 +48,7 @@ TEST_F(scannerTest, blanksAndCommentsArePassedOver) {
         {u"//", 0, 2},
         {u"a // b", 1, 6},
         {u"/* no */", 0, 0},
+        {u"*/ no", 0, 0},
         {u"\va", 0, 0},      // a vertical tab is no blank
         {u"\u00A0a", 0, 0},  // nor is the no-break space
         {u"//\ra\nb", 0, 5}, // a carriage return does not end a comment
@@ -189,6 +190,11 @@ TEST_F(scannerTest, numberTokensAreReadAsTheLibraryReadsThem) {
                                   "4.35",
                                   "1.1",
                                   "8888888888888888",
+                                  "9007199254740995",
+                                  "9999999999999999",
+                                  "99999999999999.9",
+                                  ".999999999999999",
+                                  "123456789012345.",
                                   ".1234567890123"};
     for (const char* text : digits) {
         localPosition pos = 0;
@@ -256,6 +262,9 @@ TEST_F(scannerTest, values) {
         {"2+3*4-5%3*2", number, "9"},
         {"-2*3", number, "-6"},
         {"- 2", number, "-2"},
+        {" -2", number, "-2"},
+        {"// c\n !t", boolean, "ЛОЖЬ"},
+        {"2*// c\n3", number, "6"},
         {"-x", number, "-7"},
         {"-(2)", number, "-2"},
         {"-2+5", number, "3"},
@@ -363,8 +372,10 @@ TEST_F(scannerTest, faultsOfSyntaxAreSeenInBothModes) {
         {"(1", 41},
         {"(1;", 41},
         {"((1)", 41},
+        {"(1]", 41},
         {"1?2", 38},
         {"1?2;3", 38},
+        {"1?2,3", 38},
         {"1?", 37},
         {"1?:2", 37},
         {"1?2:", 37},
@@ -522,6 +533,22 @@ TEST_F(scannerTest, checkModeLooksNoNamesUp) {
     EXPECT_TRUE(output.text().empty());
 }
 
+// "[" and units below the blank, too, begin a path with an empty name; no name is missed while
+// checking.
+TEST_F(scannerTest, anEmptyNameIsSeenWhenItIsRead) {
+    for (const char* text : {"[", "@", "\x01", "1+\x7F"}) {
+        const evaluated got = evaluate(text, &context);
+        EXPECT_FALSE(got.done) << text;
+        EXPECT_EQ(got.status, 10) << text;
+        EXPECT_TRUE(check(text).done) << text;
+    }
+    EXPECT_EQ(check("[1]").pos, 0U);
+    // As an argument it would be read again and again, so there it is a fault in both modes.
+    EXPECT_EQ(check("o.add([)").status, 37);
+    EXPECT_EQ(check("o.add(1, @)").status, 37);
+    EXPECT_EQ(evaluate("o.add([)", &context).status, 10);
+}
+
 TEST_F(scannerTest, failedCallsWriteTheRest) {
     const evaluated got = evaluate("o.fail()+1", &context);
     EXPECT_FALSE(got.done);
@@ -600,6 +627,7 @@ TEST_F(scannerTest, arguments) {
         {u",1)", false, 37, "", 0},
         {u"1,,2)", false, 37, "1 ", 2},
         {u"1+)", false, 37, "", 2},
+        {u"1 ", false, 37, "", 2}, // behind a blank the end is no end of the arguments
     };
     for (const Row& row : rows) {
         const capturedOutput unseen;
@@ -617,6 +645,23 @@ TEST_F(scannerTest, arguments) {
                 text += utf8(value->toString()) + " ";
             }
             EXPECT_EQ(text, row.values) << utf8(row.text);
+        }
+    }
+}
+
+TEST_F(scannerTest, argumentsThatAreOnlyCheckedAreOnes) {
+    const std::pair<std::u16string, std::size_t> rows[] = {
+        {u")", 0}, {u"nobody, 'a')", 2}, {u"1/0 nobody(5,6) 3)", 3}};
+    for (const auto& [text, count] : rows) {
+        localPosition pos = 0;
+        int status = localErrorTypeOK;
+        std::vector<localSlot> values;
+        values.push_back(localSlot::reserve());
+        EXPECT_TRUE(scanStringGetArguments(status, text, pos, values, nullptr, true));
+        EXPECT_EQ(pos, text.size() - 1) << utf8(text);
+        ASSERT_EQ(values.size(), count) << utf8(text);
+        for (const localSlot& value : values) {
+            EXPECT_EQ(utf8(value->typeName() + value->toString().string()), "ЧИСЛО1");
         }
     }
 }
@@ -660,6 +705,10 @@ TEST_F(scannerTest, evaluatingWithoutContextHalts) {
     EXPECT_HALT(scanStringGetNameTokenAndEvaluete(status, text, pos, result, nullptr, false),
                 "localInterpretatorUTF8::scanStringGetNameTokenAndEvaluete() context may be NULL "
                 "only in onlyCheck!");
+    std::vector<localSlot> values;
+    EXPECT_HALT(scanStringGetArguments(status, text, pos, values, nullptr, false),
+                "localInterpretatorUTF8::scanStringGetArguments() context may be NULL only in "
+                "onlyCheck!");
 }
 
 // Depth

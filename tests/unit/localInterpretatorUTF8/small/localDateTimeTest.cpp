@@ -45,6 +45,7 @@ TEST_F(localDateTimeTest, aNewMomentIsNow) {
 TEST_F(localDateTimeTest, theClassDate) {
     localClassDeclaration& declaration = *localDateTime::classDeclaration();
     EXPECT_EQ(utf8(declaration.summary()), "ДАТА (DATE)  - класс ДАТА ");
+    EXPECT_EQ(utf8(declaration.nameShort), "Дата");
     int status = localErrorTypeOK;
     void* object = nullptr;
     localSlot made;
@@ -63,11 +64,17 @@ TEST_F(localDateTimeTest, theClassDate) {
         return status;
     };
     EXPECT_EQ(call(object, u"toString", &none), 54);
-    EXPECT_EQ(call(object, u"строка", &none), 54);
+    EXPECT_EQ(call(object, u"строка", &none), 27);
     EXPECT_EQ(call(object, u"toString", &withOne), 31);
     EXPECT_EQ(call(object, u"toString", nullptr), 16);
     EXPECT_EQ(call(object, u"year", &none), 27);
     EXPECT_EQ(call(nullptr, u"toString", &none), 29);
+
+    // The method function knows the Russian name, too, though no member leads there.
+    localSlot text;
+    const localMethodFunction method = declaration.memberFind(u"TOSTRING")->methodFunction;
+    EXPECT_TRUE(method(status, nullptr, object, u"СТРОКА", &none, text.asResult()));
+    EXPECT_EQ(utf8(text->toString()), utf8(made->toString()));
 }
 
 TEST_F(localDateTimeTest, noProgramReachesTheClass) {

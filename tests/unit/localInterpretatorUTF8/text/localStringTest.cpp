@@ -22,7 +22,7 @@ std::string wantedBytes(char16_t unit, possibleCodePage codePage) {
     const unsigned u = unit;
     const unsigned low = u & 0xFF;
     const bool isWide = codePage == codePageUtf8 || codePage == codePageNative;
-    if (u < 128 || (u < 256 && isWide)) {
+    if (u < 128 || (u < 256 && codePage != codePageCP866)) {
         return oneByte(u);
     }
     if (u == 0x0401) {

@@ -241,25 +241,30 @@ TEST(localMemoryManager, theFirstReservationBuildsTheStoreAndGivesSlotZero) {
 
 TEST(localMemoryManager, aShortenedStoreListsItsSlots) {
     EXPECT_IN_FRESH_PROCESS({
-        localMemoryManager::manager = new localMemoryManager(3);
+        localMemoryManager::manager = new localMemoryManager(4);
         localMemoryManager& store = *localMemoryManager::manager;
         localValueDescription* const number = store.reserveSlot();
         localValueDescription* const object = store.reserveSlot();
+        localValueDescription* const bare = store.reserveSlot();
+        int native = 0;
+        bare->objectBind(&native, nullptr);
         number->setVal(2.5);
         ++number->linkCounter;
         object->objectBind(new countedObject, countedClass());
         const localValueDescription copy(*object);
         const std::vector<std::string> lines = listingLines();
-        EXPECT_EQ(lines.size(), 16U);
+        EXPECT_EQ(lines.size(), 17U);
         const auto address = [](const void* slot) { return utf8(addressText(slot)); };
         EXPECT_EQ(lines[1], " [0]  [" + address(number) + "]  [2] " + utf8(number->dump()));
-        // The text of an object is asked for in a slot of its own, the third.
+        // The text of an object is asked for in a slot of its own, the fourth.
         EXPECT_EQ(lines[2], " [1]  [" + address(object) + "]  [1]  [2] " + utf8(object->dump()));
-        EXPECT_THAT(lines[3],
-                    testing::MatchesRegex(" \\[2\\]  \\[0x[0-9a-f]+\\]  \\[0\\]  address: .*"
+        // An object that is not counted has no count to show.
+        EXPECT_EQ(lines[3], " [2]  [" + address(bare) + "]  [1] " + utf8(bare->dump()));
+        EXPECT_THAT(lines[4],
+                    testing::MatchesRegex(" \\[3\\]  \\[0x[0-9a-f]+\\]  \\[0\\]  address: .*"
                                           "Type: \\[ЧИСЛО\\].*Val: \\[0\\] "));
-        EXPECT_EQ(lines[4], "all reserved 3");
-        EXPECT_EQ(lines[5], "used 2");
+        EXPECT_EQ(lines[5], "all reserved 4");
+        EXPECT_EQ(lines[6], "used 3");
     });
 }
 

@@ -453,6 +453,14 @@ TEST_F(valueTest, attributesAreReadAndWrittenThroughTheValue) {
     EXPECT_EQ(status, 10);
     EXPECT_FALSE(cell.setAttr(status, nullptr, u"self", &newValue));
     EXPECT_EQ(status, 9);
+
+    int native = 0;
+    cell.objectBind(&native, nullptr);
+    EXPECT_FALSE(cell.getAttr(status, nullptr, u"self", result.asResult()));
+    EXPECT_EQ(status, 14);
+    status = localErrorTypeOK;
+    EXPECT_FALSE(cell.setAttr(status, nullptr, u"self", &newValue));
+    EXPECT_EQ(status, 14);
 }
 
 TEST_F(valueTest, aResultThatIsNotNullHalts) {

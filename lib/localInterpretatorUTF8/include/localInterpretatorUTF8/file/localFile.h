@@ -9,7 +9,7 @@
 
 // Reads a file behind `text`. Lines are joined by a line feed, put before a line only when the text holds
 // something already: empty lines at the start vanish and a final line end does not survive. Code page 1
-// appends the base64 text of the bytes. False when the file cannot be opened or read; sets no status.
+// appends the base64 text of the bytes. False when a file cannot be read or is too long; sets no status.
 bool fileRead(std::u16string_view fileName, std::u16string& text,
               localString::possibleCodePage codePage);
 

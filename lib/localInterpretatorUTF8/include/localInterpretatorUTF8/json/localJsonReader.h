@@ -21,9 +21,9 @@ namespace localInterpretatorUTF8 {
 inline constexpr std::size_t jsonDeepest = 60000;
 
 // The text between double quotes, its escapes resolved: \' \" \\ \/ \t \n \r \f \b and \u with four
-// digits. Any other backslash stays, also the one that the writer puts before brackets: those do not
-// survive a way through text. The position starts behind the opening quote and ends on the closing one, or at
-// the end of the text when there is none.
+// digits. Any other backslash stays, also the one that the writer puts before brackets: those do
+// not survive a way through text. The position starts behind the opening quote and ends on the
+// closing one, or at the end of the text when there is none.
 std::u16string scanStringGetJsonStringToken(const std::u16string& text, localPosition& pos);
 
 // Reads one object or array into a new value list; the position ends behind its bracket and what

@@ -36,9 +36,9 @@ bool valueListToJson(int& status, const localValueList& list, localText& text);
 localText valueToJson(const localValueDescription& value);
 localText valueListToJson(const localValueList& list);
 
-// Restores a value from the list that reading its typed form gave, or a value list from its items in typed
-// form, as valueListToJson writes them. `result` must be null or the
-// program halts; the caller owns the slot it gets, also on failure. Status 35 for what cannot be
-// restored, 14 for a class that is not loaded, and what making the object sets.
+// Restores a value from the list that reading its typed form gave, or a value list from its items
+// in typed form, as valueListToJson writes them. `result` must be null or the program halts; the
+// caller owns the slot it gets, also on failure. Status 35 for what cannot be restored, 14 for a
+// class that is not loaded, and what making the object sets.
 bool fromJsonValueList(int& status, localContextUTF8* context, const localValueList& list,
                        localValueDescription*& result);

@@ -22,5 +22,6 @@ bool programCompile(int& status, const std::u16string& text, localOperatorCompil
 // program's value is not the number 1.
 bool textExec(int& status, const std::u16string& text, localContextUTF8* context);
 
-// As textExec, but true only when the program's value is the number 1; status 54 then.
+// As textExec, but true only when the program's value is the number 1; status 54 then. Any other value
+// leaves the status as the run left it, 57 behind a RETURN.
 bool textLoad(int& status, const std::u16string& text, localContextUTF8* context);

@@ -44,7 +44,8 @@ bool scanStringGetNumberTokenAndEvaluete(int& status, const std::u16string& text
 // From a delimiter to the next unit equal to it. No escapes; may span lines. False without a second one.
 bool scanStringGetStringTokenAndEvaluete(const std::u16string& text, localPosition& pos,
                                          localValueDescription*& result);
-// Expressions up to ")" or the end of the text, parted by commas or by nothing.
+// Expressions up to ")" or the end of the text, parted by commas or by nothing. A comma right before
+// ")" gives false and leaves the status as it was. On false `args` may hold a part of them.
 bool scanStringGetArguments(int& status, const std::u16string& text, localPosition& pos,
                             std::vector<localSlot>& args, localContextUTF8* context,
                             bool onlyCheck);

@@ -1,0 +1,3 @@
+// Compiled as an assignment, yet the word has asked for the end by then.
+exit=3;
+? exit;                         // expect status: 5

@@ -1,0 +1,1 @@
+IF 1=1 THEN ? 1; ENDDO;         // expect status: 37
