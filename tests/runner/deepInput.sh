@@ -48,4 +48,12 @@ wants 1 "$tooDeep" 'program that runs itself' recursion.prg
 echo 'x = moduleload("recursion.prg");' >recursion.prg
 wants 0 "$tooDeep" 'module that loads itself, whose failure is a value' recursion.prg
 
+# --- a larger stack does not let a recursion use up the slots
+if (ulimit -s 262144) 2>/dev/null; then
+    printf '#!/bin/sh\nulimit -s 262144\nexec "%s" "$@"\n' "$KORVO_RUN" >wide
+    chmod +x wide
+    echo 'FUNCTION f(x) RETURN f(x+1); ENDFUNCTION; ? f(1);' >recursion.prg
+    KORVO_RUN=./wide wants 1 "$tooDeep" 'endless recursion on a large stack' recursion.prg
+fi
+
 finish
