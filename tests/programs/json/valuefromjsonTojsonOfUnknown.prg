@@ -1,3 +1,3 @@
 // An item that cannot be restored fails the list.
-r = VALUEFROMJSON('[{"p": "a", "v": {"t": "XXX"}}]');       // expect: typeMnemo=XXX
+r = VALUEFROMJSON('[{"p": "a", "v": {"t": "QQQ"}}]');       // expect: typeMnemo=QQQ
                                                             // expect status: 35
