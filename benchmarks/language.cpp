@@ -83,7 +83,11 @@ void joinStrings(benchmark::State& state) {
     run(state, u"s=\"\"; FOR i=1 TO " + std::u16string(count.begin(), count.end()) +
                    u" DO s=s+\"ab\"; ENDDO;");
 }
-BENCHMARK(joinStrings)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)
+BENCHMARK(joinStrings)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
     ->ArgName("appends");
 
 void compileProgram(benchmark::State& state) {

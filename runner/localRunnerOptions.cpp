@@ -33,7 +33,7 @@ bool localRunnerOptions::read(int argc, char* argv[]) {
             return failed(std::string(word) + (word == "-c" ? " needs a line" : " needs a file"));
         }
         const std::u16string text = localPlatform::fileNameFromBytes(isFile ? argv[i] : argv[++i]);
-        const Action asked = isFile               ? Action::program
+        const Action asked = isFile              ? Action::program
                              : word == "-c"      ? Action::lines
                              : word == "--check" ? Action::check
                                                  : Action::dump;

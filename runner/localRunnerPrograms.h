@@ -1,11 +1,13 @@
-// Program files in the terminal. Each gives the exit code of the process; messages are the language's own.
+// Program files in the terminal. Each gives the exit code of the process; messages are the
+// language's own.
 #pragma once
 
 #include <string>
 
 namespace localRunnerPrograms {
 
-// In a fresh context. 0: the program's value was the number 1; 3: another; 1: an error; 2: not readable.
+// In a fresh context. 0: the program's value was the number 1; 3: another; 1: an error; 2: not
+// readable.
 int run(const std::u16string& fileName);
 // Compiles only. 0, 1 an error, 2 not readable.
 int check(const std::u16string& fileName);

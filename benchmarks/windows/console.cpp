@@ -12,7 +12,8 @@
 
 namespace {
 
-// A line as a program writes one: through the standard output stream, with a moment for the event loop.
+// A line as a program writes one: through the standard output stream, with a moment for the event
+// loop.
 void lineOfOutput(benchmark::State& state) {
     const QTemporaryDir folder;
     QDir::setCurrent(folder.path());
@@ -31,6 +32,11 @@ void lineOfOutput(benchmark::State& state) {
     }
     std::cout.rdbuf(before);
 }
-BENCHMARK(lineOfOutput)->Arg(0)->Arg(100000)->ArgName("kept")->Iterations(20000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(lineOfOutput)
+    ->Arg(0)
+    ->Arg(100000)
+    ->ArgName("kept")
+    ->Iterations(20000)
+    ->Unit(benchmark::kMicrosecond);
 
 }  // namespace

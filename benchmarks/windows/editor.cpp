@@ -51,7 +51,8 @@ void key(benchmark::State& state) {
             QApplication::sendEvent(&editor, &end);
         }
     }
-    if (editor.textCursor().blockNumber() == line && editor.textCursor().block().text().size() == length) {
+    if (editor.textCursor().blockNumber() == line &&
+        editor.textCursor().block().text().size() == length) {
         state.SkipWithError("no letter came to the text");
     }
 }

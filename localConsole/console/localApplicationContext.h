@@ -3,6 +3,6 @@
 
 class localContextUTF8;
 
-// The context whose address stands in the application's property "localGlobalContext". Made and put there
-// when nobody has, and then owned by the application.
+// The context whose address stands in the application's property "localGlobalContext". Made and put
+// there when nobody has, and then owned by the application.
 localContextUTF8* localApplicationContext();

@@ -37,11 +37,13 @@ void insertOutput(QTextCursor& cursor, const QString& text, const QTextCharForma
     cursor.insertText(text.mid(at), format);
 }
 
-// Puts off the closing of a window while a command of the console in it runs: the program's own event
-// loops would delete the console under the command's feet.
+// Puts off the closing of a window while a command of the console in it runs: the program's own
+// event loops would delete the console under the command's feet.
 class localCloseLater : public QObject {
 public:
-    explicit localCloseLater(QWidget* window) : window_(window) { window->installEventFilter(this); }
+    explicit localCloseLater(QWidget* window) : window_(window) {
+        window->installEventFilter(this);
+    }
 
     bool isAsked() const { return asked_; }
     // Called when closing is asked for.
@@ -71,15 +73,17 @@ private:
     bool asked_ = false;
 };
 
-// Keys pressed while a command ran wait in the window system; taken while the console is still busy, they
-// are dropped. Each call of the event loop brings them one step nearer, so one is not enough.
+// Keys pressed while a command ran wait in the window system; taken while the console is still
+// busy, they are dropped. Each call of the event loop brings them one step nearer, so one is not
+// enough.
 void takeWaitingInput() {
     constexpr int steps = 3;
     constexpr int longest = 100;  // milliseconds, should something else keep the event loop at work
     QElapsedTimer timer;
     timer.start();
     for (int idle = 0; idle < steps && timer.elapsed() < longest;) {
-        const bool worked = QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+        const bool worked =
+            QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
         idle = worked ? 0 : idle + 1;
     }
 }
@@ -113,7 +117,8 @@ localConsole::localConsole(QWidget* parent)
     putPrompt(PromptPlace::currentBlock);
 
     setPalette(greenOnBlack());
-    // Where the application's font is missing, a fixed pitch replaces it here: listings stand in columns.
+    // Where the application's font is missing, a fixed pitch replaces it here: listings stand in
+    // columns.
     QFont ownFont = font();
     ownFont.setFamilies({ownFont.family(), "monospace"});
     ownFont.setStyleHint(QFont::Monospace);
@@ -131,7 +136,8 @@ localConsole::~localConsole() {
     if (editor_ != nullptr) {
         editor_->window()->close();
     }
-    // Objects of the language may write when they go: this console is still whole enough to take it.
+    // Objects of the language may write when they go: this console is still whole enough to take
+    // it.
     context_.reset();
 }
 
@@ -157,20 +163,21 @@ void localConsole::cmdExec(const QString& command) {
 int localConsole::act(const QString& command) {
     localCloseLater closeLater(window());
     if (thread_ != nullptr) {
-        // What a program under DEBUG is doing must not cross with the command. It may do it for ever, but
-        // closing the window ends it.
+        // What a program under DEBUG is doing must not cross with the command. It may do it for
+        // ever, but closing the window ends it.
         closeLater.onAsked = [this] { thread_->programInterrupt(); };
         thread_->waitForStop();
         closeLater.onAsked = nullptr;
         if (closeLater.isAsked()) {
             return localErrorTypeOK;
         }
-        // Its lines stand before those of the command. And its news are taken while what they point to is
-        // sure to be there.
+        // Its lines stand before those of the command. And its news are taken while what they point
+        // to is sure to be there.
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
     if (command.startsWith("# ")) {
-        inlineCalculation(command);  // and on with the same command, in which the language sees nothing
+        inlineCalculation(
+            command);  // and on with the same command, in which the language sees nothing
     }
     const std::u16string text = command.toStdU16String();
     int status = localErrorTypeOK;

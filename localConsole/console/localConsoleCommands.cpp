@@ -1,5 +1,5 @@
-// The console's own words, which come before those of the language: debugging, the manual, and a few that
-// stand under marked names while the plain ones work in the language.
+// The console's own words, which come before those of the language: debugging, the manual, and a
+// few that stand under marked names while the plain ones work in the language.
 #include <QApplication>
 #include <QRegExp>
 
@@ -39,7 +39,9 @@ public:
         const QString word = localVclQString(scanStringGetNameToken(command_, pos_));
         return word.toUpper().toStdU16String();
     }
-    std::u16string rest() const { return command_.substr(std::min<std::size_t>(pos_, command_.size())); }
+    std::u16string rest() const {
+        return command_.substr(std::min<std::size_t>(pos_, command_.size()));
+    }
     std::u16string fileName(int& status) { return scanStringGetFileName(status, command_, pos_); }
     localPosition position() const { return pos_; }
     void goBack(localPosition position) { pos_ = position; }
@@ -212,8 +214,7 @@ void localConsole::commandDebug(const std::u16string& text) {
     threadEnd();
     thread_ = std::make_unique<MyThread>(program, context_.get());
     connect(thread_.get(), &MyThread::toConsole, this, &localConsole::fromThread);
-    connect(thread_.get(), &MyThread::toConsoleAsQString, this,
-            &localConsole::fromThreadAsQString);
+    connect(thread_.get(), &MyThread::toConsoleAsQString, this, &localConsole::fromThreadAsQString);
     connect(thread_.get(), &MyThread::operChanged, this, &localConsole::operChangedSlot);
     const auto saveWaiting = [this] {
         if (settingsWait_) {

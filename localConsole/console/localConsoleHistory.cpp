@@ -11,15 +11,16 @@ namespace {
 
 constexpr const char16_t* historyFileName = u"console_history.log";
 
-// The system takes a killed process out of a write only where it goes from one page of the file to the
-// next. So a last line that has no end and stops just there is a piece; any other was left by a program
-// that ends no last line, and is whole.
+// The system takes a killed process out of a write only where it goes from one page of the file to
+// the next. So a last line that has no end and stops just there is a piece; any other was left by a
+// program that ends no last line, and is whole.
 bool isPiece(const QByteArray& lastLine, qint64 fileSize) {
     constexpr qint64 page = 4096;  // bytes; larger pages are multiples of it
     return fileSize % page == 0 && !lastLine.endsWith('\n');
 }
 
-// How much of a file that ends with a piece the whole lines take; all of it where it cannot be read.
+// How much of a file that ends with a piece the whole lines take; all of it where it cannot be
+// read.
 qint64 sizeWithoutPiece(QFile& file) {
     file.seek(0);
     const QByteArray bytes = file.readAll();
@@ -29,7 +30,8 @@ qint64 sizeWithoutPiece(QFile& file) {
 // Nothing of the line stays in the file when there is no room for all of it.
 void append(const QString& fileName, QByteArray line) {
     QFile file(fileName);
-    // Without a buffer, so that the line is one write; behind what another console has written meanwhile.
+    // Without a buffer, so that the line is one write; behind what another console has written
+    // meanwhile.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
         return;
     }
@@ -53,9 +55,9 @@ void append(const QString& fileName, QByteArray line) {
 localConsoleHistory::localConsoleHistory() {
     const std::u16string folder = localStd::fileSearch(historyFileName);
     if (folder.empty()) {
-        localHost::current().messageBox(
-            localHost::MessageKind::warning, u"",
-            u"Файл " + std::u16string(historyFileName) + u" не найден!");
+        localHost::current().messageBox(localHost::MessageKind::warning, u"",
+                                        u"Файл " + std::u16string(historyFileName) +
+                                            u" не найден!");
     }
     fileName_ = localVclQString(localStd::pathJoin(
         folder.empty() ? localPlatform::workingDirectory() : folder, historyFileName));
@@ -88,8 +90,8 @@ std::optional<QString> localConsoleHistory::back() {
     return lines_[index_];
 }
 
-// The line shown is the one after the place gone to, not the place's own: one step back from the bottom
-// shows the last line, and forward from there nothing. Meant.
+// The line shown is the one after the place gone to, not the place's own: one step back from the
+// bottom shows the last line, and forward from there nothing. Meant.
 std::optional<QString> localConsoleHistory::forward() {
     if (index_ == lines_.size()) {
         return std::nullopt;

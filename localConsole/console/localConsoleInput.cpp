@@ -49,8 +49,9 @@ bool localConsole::functionKey(const QKeyEvent& event) {
     }
     const auto modifiers = event.modifiers();
     const bool plain = modifiers == Qt::NoModifier;
-    const bool manual = key == 1 && (modifiers == Qt::AltModifier || modifiers == Qt::ControlModifier ||
-                                     modifiers == Qt::ShiftModifier);
+    const bool manual =
+        key == 1 && (modifiers == Qt::AltModifier || modifiers == Qt::ControlModifier ||
+                     modifiers == Qt::ShiftModifier);
     // F11 and F12 do not look at modifiers. Meant.
     if (!plain && !manual && key < 11) {
         return false;

@@ -23,8 +23,8 @@ namespace {
 
 constexpr const char16_t* settingsFileName = u"localConsole.ini";
 
-// The list that a JSON text holds, in its typed form or as a plain object; null with a status when it holds
-// none.
+// The list that a JSON text holds, in its typed form or as a plain object; null with a status when
+// it holds none.
 localSlot listOf(int& status, const std::u16string& text) {
     localSlot parsed;
     localInterpretatorUTF8::localPosition pos = 0;
@@ -46,9 +46,9 @@ localSlot listOf(int& status, const std::u16string& text) {
     return typed;
 }
 
-// Replaces a file in one step, or leaves it and gives false. QSaveFile does not serve: where the disk is full
-// it puts an empty file in the place of the old one, and a killed process may leave its temporary file,
-// each time under another name.
+// Replaces a file in one step, or leaves it and gives false. QSaveFile does not serve: where the
+// disk is full it puts an empty file in the place of the old one, and a killed process may leave
+// its temporary file, each time under another name.
 bool replaceFile(const QString& name, const std::string& bytes) {
     const QFileInfo before(name);
     if (before.exists() && !(before.isFile() && before.isWritable())) {
@@ -62,12 +62,12 @@ bool replaceFile(const QString& name, const std::string& bytes) {
     }
     const auto size = static_cast<qint64>(bytes.size());
     bool done = (!before.exists() || file.setPermissions(before.permissions())) &&
-                file.write(bytes.data(), size) == size &&
-                localPlatform::flushToDisk(file.handle());
+                file.write(bytes.data(), size) == size && localPlatform::flushToDisk(file.handle());
     file.close();
     if (done) {
         std::error_code error;
-        std::filesystem::rename(file.filesystemFileName(), QFileInfo(place).filesystemFilePath(), error);
+        std::filesystem::rename(file.filesystemFileName(), QFileInfo(place).filesystemFilePath(),
+                                error);
         done = !error;
     }
     if (!done) {

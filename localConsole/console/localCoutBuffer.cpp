@@ -52,6 +52,7 @@ void localCoutBuffer::lineEnd(Writer& writer) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     } else if (++writer.linesAhead == mostLinesAhead) {
         writer.linesAhead = 0;
-        QMetaObject::invokeMethod(this, [] {}, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [] {}, Qt::BlockingQueuedConnection);
     }
 }

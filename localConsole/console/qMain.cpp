@@ -58,14 +58,17 @@ int runBatch(const std::string& name) {
 }  // namespace
 
 int qMain(int argc, char* argv[]) {
-    // argv[0] may be relative or a bare name found by the shell; the program's folder is needed later.
+    // argv[0] may be relative or a bare name found by the shell; the program's folder is needed
+    // later.
     localStd::argv0Set(localPlatform::programPath(argv[0]));
     localStd::startDirectory();
     traceLine(localPlatform::fileNameFromBytes(argv[0]), functionName);
-    // The command line has no effect, on the toolkit neither, so the application sees the path alone.
+    // The command line has no effect, on the toolkit neither, so the application sees the path
+    // alone.
     int applicationArgumentCount = 1;
-    // The event loop on GLib keeps keys that an event loop without user input has set aside, until some
-    // other event comes: keys pressed while a program ran would appear behind it, not be dropped.
+    // The event loop on GLib keeps keys that an event loop without user input has set aside, until
+    // some other event comes: keys pressed while a program ran would appear behind it, not be
+    // dropped.
     constexpr const char* withoutGlib = "QT_NO_GLIB";
     const bool asked = qEnvironmentVariableIsSet(withoutGlib);
     qputenv(withoutGlib, "1");

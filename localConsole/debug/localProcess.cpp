@@ -62,17 +62,17 @@ void localProcess::operShow(const localOperatorCompiled& node) {
     traceLine(numberToString(node.pos) + u" type: " + numberToString(node.type) +
                   u" operShow!!!!!!: ",
               "operShow");
-    const bool isPlainBlock = node.type == localCompiledOperatorTypeBLOCK &&
-                              trimLeft(node.expression()).empty();
+    const bool isPlainBlock =
+        node.type == localCompiledOperatorTypeBLOCK && trimLeft(node.expression()).empty();
     if (node.type == localCompiledOperatorTypeNONE || isPlainBlock) {
         return;
     }
     if (editor_ != nullptr) {
         editor_->positionShow(node.pos);
     }
-    // No sleep and no events: the run keeps step with the eye, and the line above has let windows paint.
+    // No sleep and no events: the run keeps step with the eye, and the line above has let windows
+    // paint.
     QElapsedTimer shown;
     shown.start();
-    while (shown.elapsed() < delay) {
-    }
+    while (shown.elapsed() < delay) {}
 }

@@ -124,8 +124,7 @@ private slots:
 
     void buttonsWithoutAFunctionAreOperatorsThatGiveZero_data() {
         QTest::addColumn<QString>("text");
-        for (const char* const text :
-             {"%", "1/x", "+/-", "<-", "C", "M", "MC", "MR", "M+", "M-"}) {
+        for (const char* const text : {"%", "1/x", "+/-", "<-", "C", "M", "MC", "MR", "M+", "M-"}) {
             QTest::newRow(text) << QString::fromUtf8(text);
         }
     }

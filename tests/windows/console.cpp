@@ -161,14 +161,21 @@ private slots:
         QTest::newRow("letter before А") << 0x40F << "Џ" << none;
         QTest::newRow("letter behind я") << 0x450 << "ѐ" << none;
         QTest::newRow("code 127") << 127 << "\x7f" << none;
-        QTest::newRow("Ctrl+A") << int(Qt::Key_A) << "\x01" << Qt::KeyboardModifiers(Qt::ControlModifier);
-        QTest::newRow("Ctrl+V") << int(Qt::Key_V) << "\x16" << Qt::KeyboardModifiers(Qt::ControlModifier);
-        QTest::newRow("Ctrl+Z") << int(Qt::Key_Z) << "\x1a" << Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Ctrl+A") << int(Qt::Key_A) << "\x01"
+                                << Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Ctrl+V") << int(Qt::Key_V) << "\x16"
+                                << Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Ctrl+Z") << int(Qt::Key_Z) << "\x1a"
+                                << Qt::KeyboardModifiers(Qt::ControlModifier);
         QTest::newRow("Alt+x") << int(Qt::Key_X) << "x" << Qt::KeyboardModifiers(Qt::AltModifier);
-        QTest::newRow("Shift+Insert") << int(Qt::Key_Insert) << "" << Qt::KeyboardModifiers(Qt::ShiftModifier);
-        QTest::newRow("Shift+Left") << int(Qt::Key_Left) << "" << Qt::KeyboardModifiers(Qt::ShiftModifier);
-        QTest::newRow("Shift+Return") << int(Qt::Key_Return) << "\r" << Qt::KeyboardModifiers(Qt::ShiftModifier);
-        QTest::newRow("Enter of the keypad") << int(Qt::Key_Enter) << "\r" << Qt::KeyboardModifiers(Qt::KeypadModifier);
+        QTest::newRow("Shift+Insert")
+            << int(Qt::Key_Insert) << "" << Qt::KeyboardModifiers(Qt::ShiftModifier);
+        QTest::newRow("Shift+Left")
+            << int(Qt::Key_Left) << "" << Qt::KeyboardModifiers(Qt::ShiftModifier);
+        QTest::newRow("Shift+Return")
+            << int(Qt::Key_Return) << "\r" << Qt::KeyboardModifiers(Qt::ShiftModifier);
+        QTest::newRow("Enter of the keypad")
+            << int(Qt::Key_Enter) << "\r" << Qt::KeyboardModifiers(Qt::KeypadModifier);
         QTest::newRow("page up") << int(Qt::Key_PageUp) << "" << none;
     }
     void dropsWhatIsNotTyped() {
@@ -260,10 +267,14 @@ private slots:
         QTest::addColumn<int>("key");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("line");
-        QTest::newRow("letter") << int(Qt::Key_X) << "x" << "half x";
-        QTest::newRow("backspace") << int(Qt::Key_Backspace) << "" << "half";
-        QTest::newRow("delete") << int(Qt::Key_Delete) << "" << "half ";
-        QTest::newRow("left") << int(Qt::Key_Left) << "" << "half ";
+        QTest::newRow("letter") << int(Qt::Key_X) << "x"
+                                << "half x";
+        QTest::newRow("backspace") << int(Qt::Key_Backspace) << ""
+                                   << "half";
+        QTest::newRow("delete") << int(Qt::Key_Delete) << ""
+                                << "half ";
+        QTest::newRow("left") << int(Qt::Key_Left) << ""
+                              << "half ";
     }
     void clickIntoOldOutputDoesNotTakeTheInputAway() {
         QFETCH(int, key);
@@ -348,7 +359,8 @@ private slots:
     void oneCharacterIsNoCommand() {
         QFETCH(QString, command);
         enter(" " + command + " ");
-        QCOMPARE(lines(), QStringList({prompt + " " + command + " ", "Syntax ERROR: " + command, prompt}));
+        QCOMPARE(lines(),
+                 QStringList({prompt + " " + command + " ", "Syntax ERROR: " + command, prompt}));
         QCOMPARE(colorOfLine("Syntax ERROR: " + command), QColor(Qt::gray));
         QVERIFY(!shown().isBusy());
     }
@@ -382,7 +394,8 @@ private slots:
     void failedCommandShowsWhatTheLanguageWrote() {
         enter("? nothere");
         QVERIFY(lines().size() > 2);
-        QVERIFY2(lines()[lines().size() - 2].startsWith("ERROR!!! "), qPrintable(lines().join('|')));
+        QVERIFY2(lines()[lines().size() - 2].startsWith("ERROR!!! "),
+                 qPrintable(lines().join('|')));
         QCOMPARE(lines().last(), prompt);
         QVERIFY(!shown().isBusy());
     }

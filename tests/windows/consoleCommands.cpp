@@ -32,7 +32,9 @@ private:
     bool has(const char16_t* variable) { return shown().context()->varFind(variable) != nullptr; }
 
     // A manual that leaves a file behind.
-    static void writeManual() { write(manualName, "STRINGAPPENDTOFILE(\"read\", \"manual.txt\");\n"); }
+    static void writeManual() {
+        write(manualName, "STRINGAPPENDTOFILE(\"read\", \"manual.txt\");\n");
+    }
 
 private slots:
     void init() {
@@ -83,8 +85,8 @@ private slots:
     // --- the function keys
 
     void functionKeysHaveTheirCommands() {
-        const QStringList commands = {"help", "trying", "",  "dir", "", "", "display memory",
-                                      "clear memory", "", "", "", ""};
+        const QStringList commands = {"help",           "trying",       "", "dir", "", "",
+                                      "display memory", "clear memory", "", "",    "", ""};
         for (int i = 1; i <= 12; ++i) {
             QCOMPARE(shown().keyCommand(i), commands[i - 1]);
         }
@@ -92,7 +94,8 @@ private slots:
 
     void f1ShowsTheBriefManual() {
         key(Qt::Key_F1);
-        QVERIFY2(output_.contains("******** КОМАНДЫ ********************"), qPrintable(output_.join('|')));
+        QVERIFY2(output_.contains("******** КОМАНДЫ ********************"),
+                 qPrintable(output_.join('|')));
         QCOMPARE(inputLine(), prompt);
         QVERIFY(!shown().isBusy());
     }
@@ -177,8 +180,10 @@ private slots:
     }
 
     void settingsNameCommandsOfKeys() {
-        write("localConsole.ini",
-              json("{'F1': '? 101', 'F3': '? 103', 'F5': 'имя = \\'Ёж\\'', 'F8': '', 'F10': '? 110', 'F12': '? 112'}"));
+        write(
+            "localConsole.ini",
+            json(
+                "{'F1': '? 101', 'F3': '? 103', 'F5': 'имя = \\'Ёж\\'', 'F8': '', 'F10': '? 110', 'F12': '? 112'}"));
         start();
         key(Qt::Key_F1);
         key(Qt::Key_F3);
@@ -300,7 +305,8 @@ private slots:
         const Qt::KeyboardModifiers none = Qt::NoModifier;
         const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
         QTest::newRow("Shift+Up") << int(Qt::Key_Up) << shift;
-        QTest::newRow("Ctrl+Down") << int(Qt::Key_Down) << Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Ctrl+Down")
+            << int(Qt::Key_Down) << Qt::KeyboardModifiers(Qt::ControlModifier);
         QTest::newRow("Shift+Delete") << int(Qt::Key_Delete) << shift;
         QTest::newRow("Shift+Backspace") << int(Qt::Key_Backspace) << shift;
         QTest::newRow("page down") << int(Qt::Key_PageDown) << none;
@@ -433,7 +439,8 @@ private slots:
         QVERIFY(written.size() >= 2);
         for (int i = 0; i < written.size(); ++i) {
             QVERIFY(written[i].startsWith(QString::number(i) + " "));
-            QVERIFY2(written[i].contains(" (") && written[i].contains(")  - "), qPrintable(written[i]));
+            QVERIFY2(written[i].contains(" (") && written[i].contains(")  - "),
+                     qPrintable(written[i]));
         }
         QCOMPARE(written.filter(QRegularExpression("^[0-9]+ VALUELIST \\(")).size(), 1);
     }
@@ -442,9 +449,12 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("word");
         const QString edit = "E" + QString(40, '1') + "DIT";
-        QTest::newRow("clear") << "c1lear all" << "C1LEAR";
-        QTest::newRow("clear alone") << "C1LE" << "C1LE";
-        QTest::newRow("display") << "D1ISPLAY CONTEXT" << "D1ISPLAY";
+        QTest::newRow("clear") << "c1lear all"
+                               << "C1LEAR";
+        QTest::newRow("clear alone") << "C1LE"
+                                     << "C1LE";
+        QTest::newRow("display") << "D1ISPLAY CONTEXT"
+                                 << "D1ISPLAY";
         QTest::newRow("edit") << edit + " FILE x" << edit;
         QTest::newRow("edit without a file") << edit + " COMMAND" << edit;
     }
@@ -514,7 +524,8 @@ private slots:
         const QStringList written = outputOf(command);
         QVERIFY(written.size() >= 2);
         QCOMPARE(written[written.size() - 2], QString("Error! "));
-        QVERIFY2(written.last().startsWith(message + " func: " + function + " "), qPrintable(written.last()));
+        QVERIFY2(written.last().startsWith(message + " func: " + function + " "),
+                 qPrintable(written.last()));
         if (command.startsWith('t', Qt::CaseInsensitive)) {
             QCOMPARE(withoutTail(written.first()), "process init [" + command.mid(5) + "] ");
         }

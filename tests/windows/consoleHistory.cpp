@@ -208,7 +208,8 @@ private slots:
         start();
         QCOMPARE(shown().size(), QSize(613, 307));
         QCOMPARE(shown().windowPlace(), std::optional(place));
-        QVERIFY2(starting_.join('\n').startsWith("[" + text + "]\nwidth: "), qPrintable(starting_.join('|')));
+        QVERIFY2(starting_.join('\n').startsWith("[" + text + "]\nwidth: "),
+                 qPrintable(starting_.join('|')));
         QCOMPARE(withoutTail(starting_.last()), QString("width: 613 height: 307"));
         QVERIFY(starting_.last().contains(" func: initFromFile "));
     }
@@ -223,7 +224,8 @@ private slots:
     }
 
     void plainObjectOfSettingsIsRead() {
-        write(settingsName, json("{'width': 640.4, 'height': 299.6, 'x': 12.5, 'y': -3, 'F5': '? 55'}"));
+        write(settingsName,
+              json("{'width': 640.4, 'height': 299.6, 'x': 12.5, 'y': -3, 'F5': '? 55'}"));
         start();
         QCOMPARE(shown().size(), QSize(640, 300));
         QCOMPARE(shown().windowPlace(), std::optional(QPoint(13, -3)));
@@ -278,8 +280,9 @@ private slots:
         start();
         QCOMPARE(shown().size(), defaultSize());
         QVERIFY(!shown().windowPlace().has_value());
-        QVERIFY2(!starting_.filter(QRegularExpression("^" + QRegularExpression::escape(status) +
-                                                      " func: localConsoleSettings "))
+        QVERIFY2(!starting_
+                      .filter(QRegularExpression("^" + QRegularExpression::escape(status) +
+                                                 " func: localConsoleSettings "))
                       .isEmpty(),
                  qPrintable(starting_.join('|')));
         QCOMPARE(shown().keyCommand(1), QString("help"));
@@ -294,9 +297,11 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("array") << QByteArray("[1, 2]");
         QTest::newRow("number") << QByteArray("7");
-        QTest::newRow("texts for numbers") << json("{'width': 'wide', 'height': {}, 'x': [1], 'y': true}");
+        QTest::newRow("texts for numbers")
+            << json("{'width': 'wide', 'height': {}, 'x': [1], 'y': true}");
         QTest::newRow("number for a key") << json("{'F1': 5, 'F13': '? 1', '': '? 2'}");
-        QTest::newRow("immense") << json("{'width': 99999999999, 'height': -99999999999, 'x': 1000000, 'y': -5000000}");
+        QTest::newRow("immense") << json(
+            "{'width': 99999999999, 'height': -99999999999, 'x': 1000000, 'y': -5000000}");
         QTest::newRow("typed number") << json("{'t':'ЧИСЛО','v':5}");
     }
     void settingsOfAnotherKindAreIgnored() {
@@ -314,8 +319,8 @@ private slots:
         start();
         takeOutput();
         loseFocus();
-        const QStringList told =
-            output_.filter(QRegularExpression("^Error!!! Не удалось записать файл настроек! func: focusOutEvent "));
+        const QStringList told = output_.filter(QRegularExpression(
+            "^Error!!! Не удалось записать файл настроек! func: focusOutEvent "));
         QVERIFY2(!told.isEmpty(), qPrintable(output_.join('|')));
         QCOMPARE(inputLine(), prompt);
     }

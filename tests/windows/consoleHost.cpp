@@ -136,8 +136,8 @@ private slots:
                 QTest::keyClick(window->focusWidget(), static_cast<Qt::Key>(key));
             }
         });
-        const auto row = host_.chooseRow(u"Выбор", {u"один", u"два", u"три"},
-                                         static_cast<std::size_t>(start));
+        const auto row =
+            host_.chooseRow(u"Выбор", {u"один", u"два", u"три"}, static_cast<std::size_t>(start));
         QVERIFY(row.has_value());
         QCOMPARE(int(*row), chosen);
         QCOMPARE(title, QString("Выбор"));

@@ -1,5 +1,6 @@
-// The console's files after its process is killed: the history holds whole lines in the order in which they
-// were typed, the settings are the old or the new ones, and the next console goes on from there.
+// The console's files after its process is killed: the history holds whole lines in the order in
+// which they were typed, the settings are the old or the new ones, and the next console goes on
+// from there.
 //
 // The process killed is this program, started with an argument that says what it does: see main().
 #include <QClipboard>
@@ -37,7 +38,7 @@ const QString historyName = "console_history.log";
 const QString settingsName = "localConsole.ini";
 
 // How the child is started, and what it tells.
-const QString typeArgument = "--type";    // number of the first command, count of commands or 0
+const QString typeArgument = "--type";  // number of the first command, count of commands or 0
 const QString enterArgument = "--enter";
 constexpr char ready = 'r';
 constexpr char entered = 'l';
@@ -47,12 +48,13 @@ constexpr char done = 'e';
 // The system cuts a write, if at all, where a page of the file ends.
 constexpr qsizetype page = 4096;
 
-// The command typed as the given one, counted from 0. Some are longer than the buffers on the way, which
-// hold 4 or 16 kilobytes.
+// The command typed as the given one, counted from 0. Some are longer than the buffers on the way,
+// which hold 4 or 16 kilobytes.
 QString commandAt(int number) {
     if (number % 8 == 5) {
         const int times = number % 16 == 5 ? 2000 : 200;
-        return QString("длинная = \"%1\"").arg(QString("Ёж и %1, ").arg(number).repeated(times) + ".");
+        return QString("длинная = \"%1\"")
+            .arg(QString("Ёж и %1, ").arg(number).repeated(times) + ".");
     }
     return QString("имя = \"Корво %1\"").arg(number);
 }
@@ -72,7 +74,8 @@ QByteArray fileOf(Line line, int count) {
     return bytes;
 }
 
-// Behind every third command the person goes to another window for a moment, which saves the settings.
+// Behind every third command the person goes to another window for a moment, which saves the
+// settings.
 bool isSavedBehind(int number) {
     return number % 3 == 2;
 }
@@ -82,7 +85,8 @@ QPoint placeAt(int number) {
     return {number % 500, 2 * (number % 500)};
 }
 
-// The place that the given saving of a person saves who began with the command `first`. Counted from 1.
+// The place that the given saving of a person saves who began with the command `first`. Counted
+// from 1.
 QPoint placeOfSaving(int first, qsizetype saving) {
     int number = first;
     while (!isSavedBehind(number)) {
@@ -107,8 +111,8 @@ void must(bool happened, const char* what) {
     }
 }
 
-// A person at the console of the real program: types commands, short ones by keys and long ones by the
-// clipboard.
+// A person at the console of the real program: types commands, short ones by keys and long ones by
+// the clipboard.
 [[noreturn]] void typeCommands(localConsole& console, int first, int count) {
     QLineEdit other;
     childProcess::tell(ready);
@@ -126,7 +130,8 @@ void must(bool happened, const char* what) {
             console.window()->move(placeAt(number));
             other.show();
             other.activateWindow();
-            must(QTest::qWaitFor([&] { return !console.hasFocus(); }), "the other window is not active");
+            must(QTest::qWaitFor([&] { return !console.hasFocus(); }),
+                 "the other window is not active");
             childProcess::tell(saved);
             console.window()->activateWindow();
             must(QTest::qWaitFor([&] { return console.hasFocus(); }), "the console is not active");
@@ -140,7 +145,8 @@ int firstCommand = 0;
 int countOfCommands = 0;
 
 void typeWhenShown() {
-    // Only the loop in which the program waits for a person counts, not events taken while it starts.
+    // Only the loop in which the program waits for a person counts, not events taken while it
+    // starts.
     auto* const console = qobject_cast<localConsole*>(QApplication::focusWidget());
     if (console == nullptr || QThread::currentThread()->loopLevel() == 0) {
         QTimer::singleShot(1, qApp, typeWhenShown);
@@ -182,8 +188,8 @@ Files filesHere() {
     return files;
 }
 
-// How many lines of the file are there, all being those of the wanted text. A piece of the next line may
-// follow, ending with a page. Nothing when the file holds anything else.
+// How many lines of the file are there, all being those of the wanted text. A piece of the next
+// line may follow, ending with a page. Nothing when the file holds anything else.
 std::optional<int> wholeLines(const QByteArray& file, const QByteArray& wanted) {
     if (!wanted.startsWith(file)) {
         return std::nullopt;
@@ -198,7 +204,8 @@ QString middleOf(const QByteArray& text) {
     return text.size() <= 200 ? text : text.left(100) + " ... " + text.right(100);
 }
 
-// No file of this process grows beyond the limit while this lives: a disk that is full at that place.
+// No file of this process grows beyond the limit while this lives: a disk that is full at that
+// place.
 class fullDisk {
 public:
     explicit fullDisk(qsizetype limit) : signalBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -234,8 +241,8 @@ private:
         QTRY_VERIFY(shown().hasFocus());
     }
 
-    // The settings as the language reads them: where the window stood. Nothing unless all four numbers are
-    // there, and the place is one that the person chose.
+    // The settings as the language reads them: where the window stood. Nothing unless all four
+    // numbers are there, and the place is one that the person chose.
     static std::optional<QPoint> savedPlace() {
         const outputCapture lines;
         const localContextUTF8 context;
@@ -248,8 +255,8 @@ private:
         return QPoint(*x, *y);
     }
 
-    // A console on what was left behind knows all lines, and history and settings go on as ever. No other
-    // file stays.
+    // A console on what was left behind knows all lines, and history and settings go on as ever. No
+    // other file stays.
     void goOn(const QByteArray& whole) {
         start();
         const QStringList lines = localConsoleHistory().lines();
@@ -261,7 +268,8 @@ private:
         shown().move(77, 154);
         loseFocus();
         QCOMPARE(savedPlace(), std::optional(QPoint(77, 154)));
-        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden), QStringList({historyName, settingsName}));
+        QCOMPARE(QDir().entryList(QDir::Files | QDir::Hidden),
+                 QStringList({historyName, settingsName}));
     }
 
     static QRandomGenerator seeded() {
@@ -271,11 +279,12 @@ private:
     }
 
     static void sleepUpTo(QRandomGenerator& random, microseconds most) {
-        std::this_thread::sleep_for(
-            microseconds(random.bounded(static_cast<int>(std::max(most, microseconds(1)).count()))));
+        std::this_thread::sleep_for(microseconds(
+            random.bounded(static_cast<int>(std::max(most, microseconds(1)).count()))));
     }
 
-    // Returns at any moment of the child's work on the next of its steps, a few steps after its start.
+    // Returns at any moment of the child's work on the next of its steps, a few steps after its
+    // start.
     static void workForAWhile(childProcess& child, QRandomGenerator& random, int mostSteps) {
         const int steps = random.bounded(1, mostSteps + 1);
         const auto start = steady_clock::now();
@@ -311,7 +320,8 @@ private slots:
             const QByteArray history = read(historyName);
             const std::optional<int> lines = wholeLines(history, fileOf(commandAt, told + 1));
             QVERIFY2(lines.has_value(), qPrintable(middleOf(history)));
-            QVERIFY2(*lines >= told, qPrintable(QString("%1 lines, entered %2").arg(*lines).arg(told)));
+            QVERIFY2(*lines >= told,
+                     qPrintable(QString("%1 lines, entered %2").arg(*lines).arg(told)));
 
             const qsizetype savings = child.told().count(saved);
             const std::optional<QPoint> last = savings > 0 ? placeOfSaving(known, savings) : place;
@@ -331,8 +341,8 @@ private slots:
         goOn(fileOf(commandAt, known));
     }
 
-    // What a killed process leaves is what its last system call has left. So each moment at which the
-    // files can look different is seen, if each call is looked behind.
+    // What a killed process leaves is what its last system call has left. So each moment at which
+    // the files can look different is seen, if each call is looked behind.
     void killedBehindEachSystemCall() {
         constexpr int commands = 9;
         const QByteArray wanted = fileOf(commandAt, commands);
@@ -361,7 +371,8 @@ private slots:
                 names.insert(name);
             }
             QVERIFY2(names.size() <= 3, qPrintable(names.values().join(' ')));
-            const QByteArray history = files.contains(historyName) ? files.at(historyName) : QByteArray();
+            const QByteArray history =
+                files.contains(historyName) ? files.at(historyName) : QByteArray();
             QVERIFY2(wanted.startsWith(history), qPrintable(middleOf(history)));
             QVERIFY2(history.startsWith(historyBefore), qPrintable(middleOf(history)));
             QVERIFY2(history.isEmpty() || history.endsWith('\n'), qPrintable(middleOf(history)));
@@ -392,9 +403,11 @@ private slots:
             }
             QCOMPARE(child.kill(), SIGKILL);
             const int told = static_cast<int>(child.told().count(entered));
-            const std::optional<int> lines = wholeLines(read(historyName), fileOf(hugeLineAt, told + 1));
+            const std::optional<int> lines =
+                wholeLines(read(historyName), fileOf(hugeLineAt, told + 1));
             QVERIFY(lines.has_value());
-            QVERIFY2(*lines >= told, qPrintable(QString("%1 lines, entered %2").arg(*lines).arg(told)));
+            QVERIFY2(*lines >= told,
+                     qPrintable(QString("%1 lines, entered %2").arg(*lines).arg(told)));
 
             localConsoleHistory history;
             QCOMPARE(history.lines().size(), *lines);
@@ -411,7 +424,8 @@ private slots:
         QTest::newRow("behind a line") << QByteArray("? 1\n") << line;
         QTest::newRow("from page to page") << QByteArray(page - 1, 'y') + '\n' << line;
         QTest::newRow("many pages") << fileOf(commandAt, 20) << QByteArray(100 * page, 'x');
-        QTest::newRow("within a letter") << QByteArray("? 1\n?") + '\n' << QByteArray("Ё").repeated(5000);
+        QTest::newRow("within a letter") << QByteArray("? 1\n?") + '\n'
+                                         << QByteArray("Ё").repeated(5000);
         QTest::newRow("all but the end") << QByteArray("? 1\n") << QByteArray(page - 4, 'x');
     }
     void pieceOfALineIsAbsent() {

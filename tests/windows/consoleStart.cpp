@@ -93,8 +93,8 @@ private slots:
         const QString own = QDir(programFolder_.path()).canonicalPath();
         QDir(own).mkdir("prgTest");
         QDir::setCurrent(own);
-        QCOMPARE(start(), greeting_ + QStringList({"", "CWD is set to  " + own + "/prgTest", "",
-                                                   prompt_}));
+        QCOMPARE(start(),
+                 greeting_ + QStringList({"", "CWD is set to  " + own + "/prgTest", "", prompt_}));
         QCOMPARE(QDir::currentPath(), own + "/prgTest");
     }
 
@@ -122,7 +122,8 @@ private slots:
         const QPointer<localConsole> console = console_;
         // The last line that the console shows, taken at the time of its going.
         QString last;
-        connect(buffer_.get(), &localCoutBuffer::COUT, this, [&](const QString& text) { last = text; });
+        connect(buffer_.get(), &localCoutBuffer::COUT, this,
+                [&](const QString& text) { last = text; });
         QTimer::singleShot(0, console_, [console] {
             QTest::keyClicks(console, "exit");
             QTest::keyClick(console, Qt::Key_Return);

@@ -1,4 +1,5 @@
-// A program under DEBUG, which waits for STEP before each statement: where it stops, and what may be done there.
+// A program under DEBUG, which waits for STEP before each statement: where it stops, and what may
+// be done there.
 #include <QLineEdit>
 
 #include "debugTest.h"
@@ -57,8 +58,8 @@ private slots:
                        "FUNCTION f(n)\n"
                        "    RETURN n;\n"
                        "ENDFUNCTION;\n"),
-                 QStringList({"i = 0;", "WHILE i<2 DO", "i = i+1;", "i = i+1;", "f(i);", "RETURN n;",
-                              "FUNCTION f(n)"}));
+                 QStringList({"i = 0;", "WHILE i<2 DO", "i = i+1;", "i = i+1;", "f(i);",
+                              "RETURN n;", "FUNCTION f(n)"}));
     }
 
     void conditionalBranchStopsAndElseDoesNot() {
@@ -103,12 +104,12 @@ private slots:
     }
 
     void placesCountUnitsThatAreNoText() {
-        // Each byte of what is no Russian or Latin letter is one unit; one of them is no end of a line.
-        write("watched.prg", "x = \"\xF0\x9F\x98\x80\xE2\x82\xAC\"; a = 1;\r\n\r\n\tb = 2;\rc = 3;\n");
+        // Each byte of what is no Russian or Latin letter is one unit; one of them is no end of a
+        // line.
+        write("watched.prg",
+              "x = \"\xF0\x9F\x98\x80\xE2\x82\xAC\"; a = 1;\r\n\r\n\tb = 2;\rc = 3;\n");
         enter("DEBUG watched.prg");
-        const auto atCursor = [this] {
-            return shown().editor()->toPlainText().mid(stop(), 5);
-        };
+        const auto atCursor = [this] { return shown().editor()->toPlainText().mid(stop(), 5); };
         QCOMPARE(atCursor(), QString("x = \""));
         for (const char* const next : {"a = 1", "b = 2", "c = 3", "c = 3"}) {
             enter("STEP");
@@ -117,12 +118,14 @@ private slots:
     }
 
     void markOfByteOrderIsNoLanguage() {
-        write("watched.prg", "\xEF\xBB\xBF" "a = 1;\n");
+        write("watched.prg", "\xEF\xBB\xBF"
+                             "a = 1;\n");
         const QStringList ofDo = outputOf("DO watched.prg");
         QVERIFY(ofDo.contains("Синтаксическая ошибка."));
         enter("DEBUG watched.prg");
         QCOMPARE(stop(), ended);
-        QVERIFY2(output_.last().startsWith("Синтаксическая ошибка. func: call "), qPrintable(output_.last()));
+        QVERIFY2(output_.last().startsWith("Синтаксическая ошибка. func: call "),
+                 qPrintable(output_.last()));
         QCOMPARE(variable(u"a"), QString());
     }
 
@@ -158,8 +161,10 @@ private slots:
 
     void breakAndEarlyReturnLeaveTheirBlocks() {
         const QString head = "FOR i = 1 TO 9 DO";
-        QCOMPARE(stops("FOR i = 1 TO 9 DO\nIF i=1 THEN\nBREAK;\nENDIF;\nENDDO;\nRETURN 2;\nnever = 1;\n"),
-                 QStringList({head, head, "IF i=1 THEN", "IF i=1 THEN", "BREAK;", "RETURN 2;"}));
+        QCOMPARE(
+            stops(
+                "FOR i = 1 TO 9 DO\nIF i=1 THEN\nBREAK;\nENDIF;\nENDDO;\nRETURN 2;\nnever = 1;\n"),
+            QStringList({head, head, "IF i=1 THEN", "IF i=1 THEN", "BREAK;", "RETURN 2;"}));
         // Any value is an end without a message.
         QVERIFY2(output_.isEmpty(), qPrintable(output_.join('|')));
         QCOMPARE(variable(u"never"), QString());
@@ -167,14 +172,17 @@ private slots:
 
     void branchWithoutStatementsFailsAsEver() {
         QCOMPARE(stops("IF 1 THEN\nENDIF;\nb = 1;\n"), QStringList({"IF 1 THEN", "IF 1 THEN"}));
-        QVERIFY2(output_.last().startsWith("Ок. Ошибки отсутствуют func: call "), qPrintable(output_.join('|')));
+        QVERIFY2(output_.last().startsWith("Ок. Ошибки отсутствуют func: call "),
+                 qPrintable(output_.join('|')));
         QCOMPARE(variable(u"b"), QString());
     }
 
     void faultInAFunctionEndsTheProgram() {
-        debug("FUNCTION f(n)\nx = n;\n? nothere;\nRETURN n;\nENDFUNCTION;\na = 1;\nb = f(a);\nc = 2;\n");
+        debug(
+            "FUNCTION f(n)\nx = n;\n? nothere;\nRETURN n;\nENDFUNCTION;\na = 1;\nb = f(a);\nc = 2;\n");
         runThrough();
-        QVERIFY2(output_.last().startsWith("Неверный атрибут. func: call "), qPrintable(output_.last()));
+        QVERIFY2(output_.last().startsWith("Неверный атрибут. func: call "),
+                 qPrintable(output_.last()));
         QCOMPARE(variable(u"a"), QString("1"));
         QCOMPARE(variable(u"b"), QString());
         QCOMPARE(variable(u"c"), QString());
@@ -245,8 +253,8 @@ private slots:
         enter("STEP");
         consoleTest::type(shown(), "half");
         shown().thread()->waitForStop();
-        QTRY_COMPARE(lines(), QStringList({prompt + "DEBUG watched.prg", prompt + "STEP", "from afar",
-                                           prompt + "half"}));
+        QTRY_COMPARE(lines(), QStringList({prompt + "DEBUG watched.prg", prompt + "STEP",
+                                           "from afar", prompt + "half"}));
     }
 
     void commandWaitsForTheWorkerToStop() {
@@ -298,7 +306,8 @@ private slots:
     }
 
     void functionDefinedAnewWhileItStands() {
-        const QString program = "FUNCTION f(n)\na = n;\nRETURN a*2;\nENDFUNCTION;\nx = f(4);\ny = f(4);\n";
+        const QString program =
+            "FUNCTION f(n)\na = n;\nRETURN a*2;\nENDFUNCTION;\nx = f(4);\ny = f(4);\n";
         write("other.prg", "FUNCTION f(n)\nRETURN n*100;\nENDFUNCTION;\n");
         debug(program);
         QVERIFY(stepTo(program, "a = n"));
@@ -389,7 +398,8 @@ private slots:
         step();
         step();
         step();
-        QCOMPARE(shown().editor()->textCursor().block().text().trimmed(), QString("сумма = сумма+i*i;"));
+        QCOMPARE(shown().editor()->textCursor().block().text().trimmed(),
+                 QString("сумма = сумма+i*i;"));
         shown().editor()->resize(500, 240);
         shown().editor()->window()->adjustSize();
         QVERIFY(saveScreenshot(*shown().editor()->window(), "debugEditor"));

@@ -104,7 +104,8 @@ private slots:
     void consoleGoesAtAStopWithTheEditorsTextNotSaved() {
         debug("a = 1;\nb = 2;\n");
         consoleTest::type(*shown().editor(), "// ");
-        // The box takes events while the console is on its way out, and the worker's news are among them.
+        // The box takes events while the console is on its way out, and the worker's news are among
+        // them.
         QVERIFY(goOnUnheard());
         const QPointer<localVclWidgetEditor> editor = shown().editor();
         dialogAnswer answer([&](QWidget* dialog) {
@@ -130,9 +131,11 @@ private slots:
     void consoleGoesInTheMiddleOfAStatement_data() {
         QTest::addColumn<QString>("loop");
         QTest::newRow("silent") << "WHILE 1 DO\nk = 1;\nENDDO;\n";
-        QTest::newRow("without statements of its own") << "WHILE k>0 DO\nIF k THEN k = k; ENDIF;\nENDDO;\n";
+        QTest::newRow("without statements of its own")
+            << "WHILE k>0 DO\nIF k THEN k = k; ENDIF;\nENDDO;\n";
         QTest::newRow("writing") << "WHILE 1 DO\n? \"line\";\nENDDO;\n";
-        QTest::newRow("calling") << "FUNCTION f(n) RETURN n; ENDFUNCTION;\nWHILE f(k) DO\nf(1);\nENDDO;\n";
+        QTest::newRow("calling")
+            << "FUNCTION f(n) RETURN n; ENDFUNCTION;\nWHILE f(k) DO\nf(1);\nENDDO;\n";
     }
     void consoleGoesInTheMiddleOfAStatement() {
         QFETCH(QString, loop);
@@ -143,7 +146,8 @@ private slots:
         QVERIFY(shown().thread()->isWorking());
         end();
         QVERIFY(console_ == nullptr);
-        QVERIFY2(!isOutput("ERROR!!!") && !isOutput("Слишком"), qPrintable(output_.join('|').right(500)));
+        QVERIFY2(!isOutput("ERROR!!!") && !isOutput("Слишком"),
+                 qPrintable(output_.join('|').right(500)));
     }
 
     void windowClosesWhileACommandWaitsForTheWorker() {
@@ -163,10 +167,12 @@ private slots:
         defineLines();
         debug("x = lines(3000);\na = 1;\n");
         QAtomicInt ahead = 0;
-        connect(buffer_.get(), &localCoutBuffer::COUT, buffer_.get(), [&] { ++ahead; },
-                Qt::DirectConnection);
+        connect(
+            buffer_.get(), &localCoutBuffer::COUT, buffer_.get(), [&] { ++ahead; },
+            Qt::DirectConnection);
         shown().thread()->fromConsole(u"STEP");
-        // As long as this thread takes no lines, the worker comes to a stand before all are written.
+        // As long as this thread takes no lines, the worker comes to a stand before all are
+        // written.
         while (ahead < 100) {
             QThread::msleep(1);
         }
@@ -184,7 +190,8 @@ private slots:
         shown().thread()->fromConsole(u"STEP");
         int own = 0;
         while (shown().thread()->isWorking()) {
-            // So many lines are more than could wait already, so the worker writes while this one is open.
+            // So many lines are more than could wait already, so the worker writes while this one
+            // is open.
             const auto enough = output_.size() + 1200;
             std::cout << "own ";
             while (output_.size() < enough && shown().thread()->isWorking()) {
@@ -206,7 +213,8 @@ private slots:
         QVERIFY(goOnUnheard());
         shown().cmdExec("? \"console\"");
         QCOMPARE(lines().count("worker"), 50);
-        QCOMPARE(lines().filter(QRegularExpression("^(worker|console)$")).last(), QString("console"));
+        QCOMPARE(lines().filter(QRegularExpression("^(worker|console)$")).last(),
+                 QString("console"));
     }
 
     void quitAtAStopCloses() {
@@ -239,8 +247,9 @@ private slots:
         debug("a = 1;\n? nothere;\nb = 2;\n");
         step();
         QCOMPARE(step(), ended);
-        QVERIFY2(output_.last().startsWith("Неверный атрибут. func: call file: MyThread.cpp line: "),
-                 qPrintable(output_.join('|')));
+        QVERIFY2(
+            output_.last().startsWith("Неверный атрибут. func: call file: MyThread.cpp line: "),
+            qPrintable(output_.join('|')));
         QCOMPARE(variable(u"a"), QString("1"));
         QCOMPARE(variable(u"b"), QString());
         QCOMPARE(outputOf("? a"), QStringList({"1"}));
@@ -249,9 +258,13 @@ private slots:
     void programThatDoesNotCompileTells_data() {
         QTest::addColumn<QString>("program");
         QTest::addColumn<QString>("message");
-        QTest::newRow("no end of an IF") << "IF 1 THEN\na = 1;\n" << "Синтаксическая ошибка. Ожидается ключевое слово \"КОНЕЦЕСЛИ\"";
-        QTest::newRow("end of a loop alone") << "a = 1;\nENDDO;\n" << "";
-        QTest::newRow("no semicolon") << "a = 1\nb = 2;\n" << "Синтаксическая ошибка. Ожидается \";\"";
+        QTest::newRow("no end of an IF")
+            << "IF 1 THEN\na = 1;\n"
+            << "Синтаксическая ошибка. Ожидается ключевое слово \"КОНЕЦЕСЛИ\"";
+        QTest::newRow("end of a loop alone") << "a = 1;\nENDDO;\n"
+                                             << "";
+        QTest::newRow("no semicolon") << "a = 1\nb = 2;\n"
+                                      << "Синтаксическая ошибка. Ожидается \";\"";
     }
     void programThatDoesNotCompileTells() {
         QFETCH(QString, program);
@@ -266,12 +279,14 @@ private slots:
     }
 
     void deepRecursionOnTheWorkerFails() {
-        write("deep.prg", "FUNCTION deep(n)\ndepth = n;\nRETURN deep(n+1)+1;\nENDFUNCTION;\ndepth = 0;\n");
+        write("deep.prg",
+              "FUNCTION deep(n)\ndepth = n;\nRETURN deep(n+1)+1;\nENDFUNCTION;\ndepth = 0;\n");
         const QString program = "DO \"deep.prg\" ;\nx = deep(1);\nb = 1;\n";
         QCOMPARE(debug(program), 0);
         QCOMPARE(step(), program.indexOf("x = "));
         QCOMPARE(step(), ended);
-        QVERIFY2(isOutput("Слишком глубокая вложенность или рекурсия!"), qPrintable(output_.last()));
+        QVERIFY2(isOutput("Слишком глубокая вложенность или рекурсия!"),
+                 qPrintable(output_.last()));
         QVERIFY(output_.last().contains(" func: call "));
         QVERIFY(variable(u"depth").toInt() > 20);
         QCOMPARE(variable(u"b"), QString());
@@ -281,7 +296,8 @@ private slots:
     void deepRecursionWithStopsFails() {
         debug("FUNCTION deep(n)\nRETURN deep(n+1)+1;\nENDFUNCTION;\nx = deep(1);\nb = 1;\n");
         runThrough();
-        QVERIFY2(isOutput("Слишком глубокая вложенность или рекурсия!"), qPrintable(output_.last()));
+        QVERIFY2(isOutput("Слишком глубокая вложенность или рекурсия!"),
+                 qPrintable(output_.last()));
         QVERIFY(output_.last().contains(" func: call "));
         QCOMPARE(variable(u"b"), QString());
         QCOMPARE(outputOf("? 6*7"), QStringList({"42"}));
@@ -319,7 +335,8 @@ private slots:
         const auto windows = [] {
             int count = 0;
             for (const QWidget* const widget : QApplication::topLevelWidgets()) {
-                count += qobject_cast<const localMainWindow*>(widget) != nullptr && widget->isVisible();
+                count +=
+                    qobject_cast<const localMainWindow*>(widget) != nullptr && widget->isVisible();
             }
             return count;
         };

@@ -85,9 +85,11 @@ void editor::demonstration() {
     localVclWidgetEditor edit;
     QCOMPARE(shownTitle(edit), QString("test"));
     QCOMPARE(edit.fileName(), std::u16string(u"W:\\4\\test.prgS"));
-    QCOMPARE(text(edit),
-             QString("пол=создатьОбъект(\"Справочник.Товары\");\nпол.выбратьЭлементы();\n"
-                     "если 1=пол.выбран() тогда\n  сообщить(пол.наименование);\nконецЕсли;\nвозврат 1;\n"));
+    QCOMPARE(
+        text(edit),
+        QString(
+            "пол=создатьОбъект(\"Справочник.Товары\");\nпол.выбратьЭлементы();\n"
+            "если 1=пол.выбран() тогда\n  сообщить(пол.наименование);\nконецЕсли;\nвозврат 1;\n"));
     edit.show();
     QVERIFY(QTest::qWaitForWindowExposed(&edit));
     QVERIFY(!edit.verticalScrollBar()->isVisible());
@@ -95,39 +97,38 @@ void editor::demonstration() {
 }
 
 void editor::coloursOfEachRule() {
-    const QString program =
-        "// Обход товаров: цены читаются из списка.\n"
-        "ФУНКЦИЯ ценаТовара(товар, списокЦен)\n"
-        "    ПЕРЕМ цена;\n"
-        "    цена = списокЦен.GET(товар);\n"
-        "    ЕСЛИ (цена > 100) ТОГДА\n"
-        "        сообщить(\"Дорого: \" + СТРОКА(цена)); // печать\n"
-        "    КОНЕЦЕСЛИ;\n"
-        "    ВОЗВРАТ цена;\n"
-        "КОНЕЦФУНКЦИИ;\n"
-        "\n"
-        "list = CREATEOBJECT(\"VALUELIST\");\n"
-        "FOR i = 1 TO 10 DO\n"
-        "    list.VALUEADD(i * 2);\n"
-        "\tlabel = QLabel('текст');\n"
-        "ENDDO;\n"
-        "? ценаТовара(\"чай\", list);\n";
+    const QString program = "// Обход товаров: цены читаются из списка.\n"
+                            "ФУНКЦИЯ ценаТовара(товар, списокЦен)\n"
+                            "    ПЕРЕМ цена;\n"
+                            "    цена = списокЦен.GET(товар);\n"
+                            "    ЕСЛИ (цена > 100) ТОГДА\n"
+                            "        сообщить(\"Дорого: \" + СТРОКА(цена)); // печать\n"
+                            "    КОНЕЦЕСЛИ;\n"
+                            "    ВОЗВРАТ цена;\n"
+                            "КОНЕЦФУНКЦИИ;\n"
+                            "\n"
+                            "list = CREATEOBJECT(\"VALUELIST\");\n"
+                            "FOR i = 1 TO 10 DO\n"
+                            "    list.VALUEADD(i * 2);\n"
+                            "\tlabel = QLabel('текст');\n"
+                            "ENDDO;\n"
+                            "? ценаТовара(\"чай\", list);\n";
     auto* const edit = new testedEditor(u"товары.prg", program.toStdU16String());
     edit->openWindow();
     QVERIFY(QTest::qWaitForWindowExposed(edit->window()));
 
     QVERIFY(hasColour(formatAt(*edit, 0, 0), Qt::darkGreen, true));
     QVERIFY(hasColour(formatAt(*edit, 0, 12), Qt::darkGreen, true));
-    QVERIFY(hasColour(formatAt(*edit, 1, 0), Qt::red, false));                 // ФУНКЦИЯ
-    QCOMPARE(formatAt(*edit, 1, 10), QTextCharFormat());                       // ценаТовара
-    QVERIFY(hasColour(formatAt(*edit, 1, 18), Qt::red, true));                 // (
-    QVERIFY(hasColour(formatAt(*edit, 5, 8), Qt::red, true));                  // сообщить
-    QVERIFY(hasColour(formatAt(*edit, 5, 17), Qt::black, false));              // a text
-    QVERIFY(hasColour(formatAt(*edit, 5, 30), Qt::red, true));                 // СТРОКА
-    QVERIFY(hasColour(formatAt(*edit, 5, 46), Qt::darkGreen, true));           // печать
-    QVERIFY(hasColour(formatAt(*edit, 13, 9), Qt::darkMagenta, false));        // QLabel
+    QVERIFY(hasColour(formatAt(*edit, 1, 0), Qt::red, false));           // ФУНКЦИЯ
+    QCOMPARE(formatAt(*edit, 1, 10), QTextCharFormat());                 // ценаТовара
+    QVERIFY(hasColour(formatAt(*edit, 1, 18), Qt::red, true));           // (
+    QVERIFY(hasColour(formatAt(*edit, 5, 8), Qt::red, true));            // сообщить
+    QVERIFY(hasColour(formatAt(*edit, 5, 17), Qt::black, false));        // a text
+    QVERIFY(hasColour(formatAt(*edit, 5, 30), Qt::red, true));           // СТРОКА
+    QVERIFY(hasColour(formatAt(*edit, 5, 46), Qt::darkGreen, true));     // печать
+    QVERIFY(hasColour(formatAt(*edit, 13, 9), Qt::darkMagenta, false));  // QLabel
     QCOMPARE(formatAt(*edit, 13, 9).fontWeight(), int(QFont::Bold));
-    QVERIFY(hasColour(formatAt(*edit, 13, 17), Qt::black, false));             // 'текст'
+    QVERIFY(hasColour(formatAt(*edit, 13, 17), Qt::black, false));  // 'текст'
 
     edit->positionShow(program.indexOf("цена > 100"));
     QVERIFY(saveScreenshot(*edit->window(), "editor"));
@@ -482,28 +483,29 @@ void editor::lineJumpRefused() {
 }
 
 void editor::gotoProcedure() {
-    testedEditor edit(u"",
-                      u"x=1;\nprocedure Zet()\nendprocedure;\n  ФУНКЦИЯ альфа(а)\nконецФункции;\n"
-                      u"// function hidden()\nfunctionx()\nFunction beta()\nПроцедура Бета()\nx=function()\n"
-                      u"function Alpha()");
+    testedEditor edit(
+        u"", u"x=1;\nprocedure Zet()\nendprocedure;\n  ФУНКЦИЯ альфа(а)\nконецФункции;\n"
+             u"// function hidden()\nfunctionx()\nFunction beta()\nПроцедура Бета()\nx=function()\n"
+             u"function Alpha()");
     edit.show();
     QStringList offered;
     QString title;
     const auto choose = [&](int row, int key) {
         outputCapture output;
-        answer<localVclQStringListGetItemDialog> dialog([&](localVclQStringListGetItemDialog& shown) {
-            title = shown.windowTitle();
-            offered.clear();
-            auto* const list = shown.findChild<QListWidget*>();
-            for (int i = 0; i < list->count(); ++i) {
-                offered.append(list->item(i)->text());
-            }
-            if (row == 1) {
-                QVERIFY(saveScreenshot(shown, "editorProcedures"));
-            }
-            list->setCurrentRow(row);
-            QTest::keyClick(list, Qt::Key_Return);
-        });
+        answer<localVclQStringListGetItemDialog> dialog(
+            [&](localVclQStringListGetItemDialog& shown) {
+                title = shown.windowTitle();
+                offered.clear();
+                auto* const list = shown.findChild<QListWidget*>();
+                for (int i = 0; i < list->count(); ++i) {
+                    offered.append(list->item(i)->text());
+                }
+                if (row == 1) {
+                    QVERIFY(saveScreenshot(shown, "editorProcedures"));
+                }
+                list->setCurrentRow(row);
+                QTest::keyClick(list, Qt::Key_Return);
+            });
         press(edit, key, Qt::AltModifier);
         QCOMPARE(dialog.count, 1);
         QVERIFY(output.text().startsWith("Accepted"));
@@ -525,12 +527,13 @@ void editor::gotoProcedureOfLinesThatReadAlike() {
     edit.show();
     for (const int row : {0, 1, 2}) {
         outputCapture output;
-        answer<localVclQStringListGetItemDialog> dialog([&](localVclQStringListGetItemDialog& shown) {
-            auto* const list = shown.findChild<QListWidget*>();
-            QCOMPARE(list->count(), 3);
-            list->setCurrentRow(row);
-            QTest::keyClick(list, Qt::Key_Return);
-        });
+        answer<localVclQStringListGetItemDialog> dialog(
+            [&](localVclQStringListGetItemDialog& shown) {
+                auto* const list = shown.findChild<QListWidget*>();
+                QCOMPARE(list->count(), 3);
+                list->setCurrentRow(row);
+                QTest::keyClick(list, Qt::Key_Return);
+            });
         QTest::keyClick(&edit, Qt::Key_P, Qt::AltModifier);
         QCOMPARE(dialog.count, 1);
         QCOMPARE(edit.textCursor().blockNumber(), row == 2 ? 4 : 1);

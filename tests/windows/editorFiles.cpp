@@ -272,9 +272,10 @@ void editorFiles::charactersThatTheFileCannotHold() {
     outputCapture output;
     QVERIFY(!edit.saveSlot());
     QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
-    QCOMPARE(edit.questions,
-             QStringList{"Знаков, которых файл не может сохранить: 5. Первый из них, \"№\", стоит в "
-                         "строке 2. В файле они будут потеряны. Сохранить его?"});
+    QCOMPARE(
+        edit.questions,
+        QStringList{"Знаков, которых файл не может сохранить: 5. Первый из них, \"№\", стоит в "
+                    "строке 2. В файле они будут потеряны. Сохранить его?"});
     QCOMPARE(read("loss.prg"), QByteArray("old"));
     QCOMPARE(shownTitle(edit), QString("loss.prg*"));
     QVERIFY(!edit.saveAsSlot());
@@ -284,15 +285,18 @@ void editorFiles::charactersThatTheFileCannotHold() {
     QVERIFY(edit.saveSlot());
     QCOMPARE(edit.questions.size(), 3);
     QCOMPARE(shownTitle(edit), QString("loss.prg"));
-    QCOMPARE(read("loss.prg"), QByteArray("yx;\n// ") + QString("Ёж").toUtf8() + " \xFF 5 \xFF \xFF \xFF\xFF");
+    QCOMPARE(read("loss.prg"),
+             QByteArray("yx;\n// ") + QString("Ёж").toUtf8() + " \xFF 5 \xFF \xFF \xFF\xFF");
     // Agreed once; more to lose is asked for again.
     QVERIFY(edit.saveSlot());
     QCOMPARE(edit.questions.size(), 3);
     edit.insertPlainText("🙂«");
     QVERIFY(edit.saveSlot());
     QCOMPARE(edit.questions.size(), 4);
-    QVERIFY2(edit.questions.last().startsWith("Знаков, которых файл не может сохранить: 8. Первый из них, \"🙂\", стоит в строке 1."),
-             qPrintable(edit.questions.last()));
+    QVERIFY2(
+        edit.questions.last().startsWith(
+            "Знаков, которых файл не может сохранить: 8. Первый из них, \"🙂\", стоит в строке 1."),
+        qPrintable(edit.questions.last()));
     // Another text is another question.
     edit.textSet(u"№");
     QVERIFY(edit.saveSlot());
@@ -309,10 +313,11 @@ void editorFiles::bytesThatCannotBeRead() {
         QByteArray bytes;
         localString::possibleCodePage codePage;
         const char* asked;
-    } cases[] = {{"mark.prg", QByteArray::fromHex("efbbbf") + "x=1;", localString::codePageUtf8, "3"},
-                 {"number.prg", QString("x=1; // №").toUtf8(), localString::codePageUtf8, "3"},
-                 {"cp1251.prg", QByteArray::fromHex("b9"), localString::codePageCP1251, "1"},
-                 {"cp866.prg", QByteArray::fromHex("fcff"), localString::codePageCP866, "2"}};
+    } cases[] = {
+        {"mark.prg", QByteArray::fromHex("efbbbf") + "x=1;", localString::codePageUtf8, "3"},
+        {"number.prg", QString("x=1; // №").toUtf8(), localString::codePageUtf8, "3"},
+        {"cp1251.prg", QByteArray::fromHex("b9"), localString::codePageCP1251, "1"},
+        {"cp866.prg", QByteArray::fromHex("fcff"), localString::codePageCP866, "2"}};
     for (const auto& each : cases) {
         write(each.name, each.bytes);
         testedEditor edit(u"");
@@ -339,7 +344,8 @@ void editorFiles::lossBoxAnswers() {
         });
         QCOMPARE(edit.saveSlot(), button == QMessageBox::Save);
         QCOMPARE(box.count, 1);
-        QCOMPARE(read("loss.prg"), button == QMessageBox::Save ? QByteArray("\xFF") : QByteArray("old"));
+        QCOMPARE(read("loss.prg"),
+                 button == QMessageBox::Save ? QByteArray("\xFF") : QByteArray("old"));
     }
 }
 
@@ -404,7 +410,8 @@ void editorFiles::commonSaveDialog() {
     QCOMPARE(name, path("common.txt").toStdU16String());
     QCOMPARE(read("common.txt"), QByteArray::fromHex("b8e6"));
     answer<QFileDialog> rejected([](QFileDialog& shown) { shown.reject(); });
-    QVERIFY(localVclTextSaveDialog(localString::codePageUtf8, u"x", "t", "*.txt", path("")).empty());
+    QVERIFY(
+        localVclTextSaveDialog(localString::codePageUtf8, u"x", "t", "*.txt", path("")).empty());
 }
 
 void editorFiles::openKey() {
@@ -617,7 +624,8 @@ void editorFiles::positionsOfAText() {
         std::size_t position;
         int line;
         int column;
-    } cases[] = {{0, 0, 0}, {2, 0, 2}, {4, 1, 0}, {8, 2, 0}, {9, 2, 1}, {11, 3, 0}, {13, 3, 2}, {99, 3, 2}};
+    } cases[] = {{0, 0, 0}, {2, 0, 2},  {4, 1, 0},  {8, 2, 0},
+                 {9, 2, 1}, {11, 3, 0}, {13, 3, 2}, {99, 3, 2}};
     for (const auto& each : cases) {
         edit.positionShow(each.position);
         QCOMPARE(edit.textCursor().blockNumber(), each.line);
@@ -669,8 +677,8 @@ void editorFiles::programOpensTheEditor() {
     int status = localErrorTypeOK;
     std::uint32_t pos = 0;
     outputCapture output;
-    QVERIFY(localInterpretatorUTF8::scanStringGetOperatorAndExec(status, u"DO opens.prg", pos, &context,
-                                                                 false));
+    QVERIFY(localInterpretatorUTF8::scanStringGetOperatorAndExec(status, u"DO opens.prg", pos,
+                                                                 &context, false));
     localHost::install(nullptr);
     // The command acts when the program is compiled, too.
     int windows = 0;

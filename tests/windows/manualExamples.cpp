@@ -24,7 +24,7 @@ const QStringList libraryMissing = {"CONTEXT:FORMOPEN", "CONTEXT:FORMEDIT",
 
 const QString program = "example.prg";
 
-} // namespace
+}  // namespace
 
 class manualExamples : public consoleTest::test {
     Q_OBJECT

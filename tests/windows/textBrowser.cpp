@@ -223,7 +223,7 @@ private:
         int status = localErrorTypeOK;
         std::uint32_t pos = 0;
         localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line.toStdU16String(), pos,
-                                                            &context_, false);
+                                                             &context_, false);
         return status;
     }
 

@@ -1,4 +1,5 @@
-// A program under TRACE, which pauses at each statement; and the manual, which is a program of its own.
+// A program under TRACE, which pauses at each statement; and the manual, which is a program of its
+// own.
 #include <QMessageBox>
 
 #include "debugTest.h"
@@ -42,9 +43,9 @@ private slots:
         QCOMPARE(written[0], QString("trace СТАРТ!!!!!!: "));
         QCOMPARE(written[1], QString("СТАРТ!!!!!!: "));
         QVERIFY(written[2].contains("var [THISPROCESS]"));
-        QCOMPARE(written.mid(3), QStringList({"0 type: 1 operShow!!!!!!: ", "0 type: 5 operShow!!!!!!: ",
-                                              "7 type: 7 operShow!!!!!!: ", "2",
-                                              "7 type: 8 operShow!!!!!!: "}));
+        QCOMPARE(written.mid(3),
+                 QStringList({"0 type: 1 operShow!!!!!!: ", "0 type: 5 operShow!!!!!!: ",
+                              "7 type: 7 operShow!!!!!!: ", "2", "7 type: 8 operShow!!!!!!: "}));
         QCOMPARE(places, QList<int>({int(program.indexOf("?"))}));
         QCOMPARE(variable(u"a"), QString("1"));
         QVERIFY(shownEditor()->window()->windowTitle().contains("watched.prg"));
@@ -100,8 +101,10 @@ private slots:
         QTest::addColumn<QByteArray>("program");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("message");
-        QTest::newRow("run") << QByteArray("a = 1;\n? nothere;\n") << int(localErrorTypeATTRIBUTEWRONG) << "Неверный атрибут.";
-        QTest::newRow("compile") << QByteArray("IF 1 THEN\n") << int(localErrorTypeENDIFEXPECTED) << "Синтаксическая ошибка. Ожидается ключевое слово \"КОНЕЦЕСЛИ\"";
+        QTest::newRow("run") << QByteArray("a = 1;\n? nothere;\n")
+                             << int(localErrorTypeATTRIBUTEWRONG) << "Неверный атрибут.";
+        QTest::newRow("compile") << QByteArray("IF 1 THEN\n") << int(localErrorTypeENDIFEXPECTED)
+                                 << "Синтаксическая ошибка. Ожидается ключевое слово \"КОНЕЦЕСЛИ\"";
     }
     void traceThatFailsTells() {
         QFETCH(QByteArray, program);

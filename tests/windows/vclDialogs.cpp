@@ -129,9 +129,8 @@ private slots:
     }
 
     void emptyListGivesNoRow() {
-        const listOutcome outcome = chooseFrom({}, 0, [](QWidget*, QListWidget* list) {
-            QTest::keyClick(list, Qt::Key_Return);
-        });
+        const listOutcome outcome = chooseFrom(
+            {}, 0, [](QWidget*, QListWidget* list) { QTest::keyClick(list, Qt::Key_Return); });
         QVERIFY(outcome.accepted);
         QCOMPARE(outcome.row, -1);
     }

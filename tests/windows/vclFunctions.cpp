@@ -29,7 +29,7 @@ int act(const QString& line) {
     int status = localErrorTypeOK;
     std::uint32_t pos = 0;
     localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line.toStdU16String(), pos,
-                                                        &context, false);
+                                                         &context, false);
     return status;
 }
 
@@ -176,9 +176,10 @@ private slots:
         QFETCH(QSize, picture);
         QPixmap pixmap(picture);
         pixmap.fill(Qt::darkGreen);
-        QCOMPARE(linesOf(QStringLiteral("? PIXMAPASBASE64SHOW(\"%1\")")
-                             .arg(localVclPixmapToBase64(pixmap))),
-                 QStringLiteral("1"));
+        QCOMPARE(
+            linesOf(
+                QStringLiteral("? PIXMAPASBASE64SHOW(\"%1\")").arg(localVclPixmapToBase64(pixmap))),
+            QStringLiteral("1"));
         QWidget* const window = windowTitled({});
         QVERIFY(window != nullptr);
         QVERIFY(QTest::qWaitForWindowExposed(window));

@@ -17,8 +17,8 @@ namespace {
 // A field of 12 characters with 3 decimals and another field to go to.
 struct window : QWidget {
     explicit window(const QString& text, int length = 12, int decimals = 3)
-        : numeric(new localVclEditWidgetNumeric(length, decimals, true, text, this))
-        , next(new QLineEdit(this)) {
+        : numeric(new localVclEditWidgetNumeric(length, decimals, true, text, this)),
+          next(new QLineEdit(this)) {
         auto* const layout = new QVBoxLayout(this);
         layout->addWidget(numeric);
         layout->addWidget(next);
@@ -195,10 +195,14 @@ private slots:
     void leavingTheFieldShapesTheText_data() {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("nothing") << "" << "       0.000";
-        QTest::newRow("a number") << "3.14159" << "       3.142";
-        QTest::newRow("letters") << "abc" << "       0.000";
-        QTest::newRow("a minus in front of blanks") << "-   2" << "      -2.000";
+        QTest::newRow("nothing") << ""
+                                 << "       0.000";
+        QTest::newRow("a number") << "3.14159"
+                                  << "       3.142";
+        QTest::newRow("letters") << "abc"
+                                 << "       0.000";
+        QTest::newRow("a minus in front of blanks") << "-   2"
+                                                    << "      -2.000";
     }
     void leavingTheFieldShapesTheText() {
         QFETCH(QString, typed);

@@ -52,8 +52,8 @@ public:
         }
         pos_ = behindBlanks;
         localSlot value;
-        return scanStringGetExpressionAndEvaluete(status_, text_, pos_, value.asResult(),
-                                                  context_, false);
+        return scanStringGetExpressionAndEvaluete(status_, text_, pos_, value.asResult(), context_,
+                                                  false);
     }
 
 private:
@@ -92,7 +92,8 @@ private:
             traceLine(u"Syntax ERROR in line lineNumber!!!", functionName);
             return fail(localErrorTypeSYNTAX);
         }
-        // The expression may have removed the variable or declared others, so it is looked up again.
+        // The expression may have removed the variable or declared others, so it is looked up
+        // again.
         localVariableEntry* variable = context_->varFind(name);
         if (variable == nullptr) {
             variable = &context_->varDeclare(name);
@@ -182,9 +183,10 @@ private:
     bool display() {
         const auto what = nextWord();
         if (isPrefix(*what, u"FUNCTION")) {
-            // All the rest of the text is the pattern, so inside a program it takes the program's end too.
-            const std::u16string_view rest =
-                trimBoth(std::u16string_view(text_).substr(std::min<std::size_t>(pos_, text_.size())));
+            // All the rest of the text is the pattern, so inside a program it takes the program's
+            // end too.
+            const std::u16string_view rest = trimBoth(
+                std::u16string_view(text_).substr(std::min<std::size_t>(pos_, text_.size())));
             pos_ = static_cast<localPosition>(text_.size());
             if (!onlyCheck_) {
                 context_->dispFunc(rest);
@@ -220,8 +222,7 @@ private:
     std::u16string_view pattern() {
         scanStringSkipBlanks(text_, pos_);
         const localPosition from = pos_;
-        while (pos_ < text_.size() &&
-               (isNameUnit(unit()) || unit() == u'*' || unit() == u'?')) {
+        while (pos_ < text_.size() && (isNameUnit(unit()) || unit() == u'*' || unit() == u'?')) {
             ++pos_;
         }
         return std::u16string_view(text_).substr(from, pos_ - from);
@@ -229,7 +230,8 @@ private:
 
     enum class Editor { outside, own };
 
-    // Acts in check mode too: a program that names a new file creates it when it is compiled. Meant.
+    // Acts in check mode too: a program that names a new file creates it when it is compiled.
+    // Meant.
     bool edit(Editor editor) {
         if (!isPrefix(*nextWord(), u"COMMAND")) {
             return fail(localErrorTypeSYNTAX);

@@ -10,8 +10,8 @@
 
 namespace {
 
-// True and sets `value` for the four boolean words; they come before any variable, so that a variable of
-// such a name can never be read.
+// True and sets `value` for the four boolean words; they come before any variable, so that a
+// variable of such a name can never be read.
 bool booleanWord(std::u16string_view upper, bool& value) {
     if (upper == u"TRUE" || upper == u"ИСТИНА") {
         value = true;
@@ -99,8 +99,7 @@ localClassDeclaration* localContextUTF8::classDeclaration() {
 }
 
 bool localContextUTF8::valueOfUpperName(int& status, std::u16string_view name,
-                                        const localUpperName& upper,
-                                        localValueDescription& value) {
+                                        const localUpperName& upper, localValueDescription& value) {
     bool word = false;
     if (upper.view().size() >= 4 && upper.view().size() <= 6 && booleanWord(upper, word)) {
         value.setBoolean(word);
@@ -123,7 +122,8 @@ bool localContextUTF8::valueOfName(int& status, std::u16string_view name,
 bool localContextUTF8::nameRead(int& status, std::u16string_view name,
                                 localValueDescription& value) {
     const localUpperName upper(name);
-    // Members are looked up as written: ABS names the function and cannot be read, abs names a variable.
+    // Members are looked up as written: ABS names the function and cannot be read, abs names a
+    // variable.
     if (upper.wasUpper()) {
         const localClassMember* member = classDeclaration()->memberFind(upper, upper.hash());
         if (member != nullptr && member->attribGetFunction == nullptr) {

@@ -57,8 +57,7 @@ localContextUTF8* outer(localContextUTF8* context) {
 
 }  // namespace
 
-bool namePatternMatches(std::u16string_view pattern, std::u16string_view name,
-                        bool caseSensitive) {
+bool namePatternMatches(std::u16string_view pattern, std::u16string_view name, bool caseSensitive) {
     if (pattern.empty()) {
         return true;
     }
@@ -69,8 +68,8 @@ bool namePatternMatches(std::u16string_view pattern, std::u16string_view name,
         if (i >= pattern.size() || i >= name.size()) {
             return false;
         }
-        const bool equal = caseSensitive ? pattern[i] == name[i]
-                                         : toUpper(pattern[i]) == toUpper(name[i]);
+        const bool equal =
+            caseSensitive ? pattern[i] == name[i] : toUpper(pattern[i]) == toUpper(name[i]);
         if (pattern[i] != u'?' && !equal) {
             return false;
         }
@@ -95,8 +94,7 @@ void localContextUTF8::dispMemo(std::u16string_view pattern, std::ostream& strea
     }
     stream << localString::toUtf8(
                   u"Accessible RAM:" +
-                  numberFormat(static_cast<double>(localPlatform::accessibleMemory()),
-                               u"Ч25.0.,"))
+                  numberFormat(static_cast<double>(localPlatform::accessibleMemory()), u"Ч25.0.,"))
            << traceTail("dispMemo") << std::endl;
 }
 

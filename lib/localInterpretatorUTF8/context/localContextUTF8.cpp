@@ -92,8 +92,7 @@ void localContextUTF8::ceatorSet(void* owner) {
     creator_ = owner;
 }
 
-localVariableEntry* localContextUTF8::varFind(std::u16string_view name,
-                                              localContextUTF8** holder) {
+localVariableEntry* localContextUTF8::varFind(std::u16string_view name, localContextUTF8** holder) {
     const localUpperName upper(name);
     return varFindUpper(name, upper, upper.hash(), holder);
 }
@@ -282,8 +281,7 @@ void localContextUTF8::createGlobal(int& status) {
     static_cast<void>(new localContextUTF8);
     status = localErrorTypeOK;
     writeLine(u"localMemoryManager::manager->getReservedCount()= " +
-              numberToString(static_cast<double>(
-                  localMemoryManager::manager->getReservedCount())));
+              numberToString(static_cast<double>(localMemoryManager::manager->getReservedCount())));
 }
 
 bool localContextUTF8::init(int& status) {
@@ -291,7 +289,8 @@ bool localContextUTF8::init(int& status) {
     if (globalContext == nullptr) {
         globalContext = this;
     }
-    // Every new context begins the random sequence again, so two made within a second share one. Meant.
+    // Every new context begins the random sequence again, so two made within a second share one.
+    // Meant.
     localRandomSeed(static_cast<std::uint32_t>(std::time(nullptr)));
     status = localErrorTypeOK;
     creator_ = nullptr;
@@ -314,8 +313,7 @@ void localContextUTF8::nativeFunctionsAdd() {
     functions_.clear();
     for (const auto& member : classDeclaration()->members()) {
         if (member->methodFunction != nullptr) {
-            functions_.add(
-                {member->name, nameHash(member->name), member->methodFunction, nullptr});
+            functions_.add({member->name, nameHash(member->name), member->methodFunction, nullptr});
         }
     }
 }

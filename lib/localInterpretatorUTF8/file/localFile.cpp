@@ -18,7 +18,8 @@ FileHandle opened(std::u16string_view name, const char* mode) {
     return {localPlatform::openFile(name, mode), &std::fclose};
 }
 
-// More than any text is made of: a code unit takes at most two bytes of a file. Some files never end.
+// More than any text is made of: a code unit takes at most two bytes of a file. Some files never
+// end.
 constexpr std::size_t longestFile = localText::maxLength * 2;
 
 // False also for a file that no text or the memory can hold.
@@ -102,8 +103,8 @@ bool loadFileToText(int& status, std::u16string_view fileName, std::u16string& t
     return true;
 }
 
-bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage,
-               std::u16string_view text, std::u16string_view fileName) {
+bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::u16string_view text,
+               std::u16string_view fileName) {
     if (fileName.empty()) {
         return false;
     }

@@ -8,27 +8,27 @@ namespace {
 // The letter that a unit is written as behind a backslash; 0 for a unit that is written as it is.
 constexpr char16_t escapeLetter(char16_t unit) {
     switch (unit) {
-    case u'\'':
-    case u'"':
-    case u'\\':
-    case u'/':
-    case u'[':
-    case u']':
-    case u'{':
-    case u'}':
-        return unit;
-    case u'\t':
-        return u't';
-    case u'\n':
-        return u'n';
-    case u'\r':
-        return u'r';
-    case u'\f':
-        return u'f';
-    case u'\b':
-        return u'b';
-    default:
-        return 0;
+        case u'\'':
+        case u'"':
+        case u'\\':
+        case u'/':
+        case u'[':
+        case u']':
+        case u'{':
+        case u'}':
+            return unit;
+        case u'\t':
+            return u't';
+        case u'\n':
+            return u'n';
+        case u'\r':
+            return u'r';
+        case u'\f':
+            return u'f';
+        case u'\b':
+            return u'b';
+        default:
+            return 0;
     }
 }
 
@@ -36,23 +36,23 @@ constexpr char16_t escapeLetter(char16_t unit) {
 // backslash that is written before them is read as a part of the text. Meant.
 constexpr char16_t escapedUnit(char16_t letter) {
     switch (letter) {
-    case u'\'':
-    case u'"':
-    case u'\\':
-    case u'/':
-        return letter;
-    case u't':
-        return u'\t';
-    case u'n':
-        return u'\n';
-    case u'r':
-        return u'\r';
-    case u'f':
-        return u'\f';
-    case u'b':
-        return u'\b';
-    default:
-        return 0;
+        case u'\'':
+        case u'"':
+        case u'\\':
+        case u'/':
+            return letter;
+        case u't':
+            return u'\t';
+        case u'n':
+            return u'\n';
+        case u'r':
+            return u'\r';
+        case u'f':
+            return u'\f';
+        case u'b':
+            return u'\b';
+        default:
+            return 0;
     }
 }
 

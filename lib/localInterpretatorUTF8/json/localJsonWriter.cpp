@@ -13,16 +13,16 @@ namespace {
 
 constexpr std::u16string_view mnemonicOf(const localValueDescription& value) {
     switch (value.type) {
-    case localValueTypeNUMBER:
-        return u"NUM";
-    case localValueTypeSTRING:
-        return u"STR";
-    case localValueTypeBOOLEAN:
-        return u"BOO";
-    case localValueTypeOBJECT:
-        return u"OBJ";
-    default:
-        return u"UNK";
+        case localValueTypeNUMBER:
+            return u"NUM";
+        case localValueTypeSTRING:
+            return u"STR";
+        case localValueTypeBOOLEAN:
+            return u"BOO";
+        case localValueTypeOBJECT:
+            return u"OBJ";
+        default:
+            return u"UNK";
     }
 }
 
@@ -119,21 +119,21 @@ private:
     bool plain(const localValueDescription& value) {
         head(value);
         switch (value.type) {
-        case localValueTypeNUMBER:
-        case localValueTypeSTRING:
-            quoted(value.toString());
-            break;
-        case localValueTypeBOOLEAN:
-            // A negative number is false here, though its text is "ИСТИНА". Meant.
-            quoted(value.num <= 0.0 ? u"false" : u"true");
-            break;
-        case localValueTypeOBJECT:
-            if (!object(value)) {
-                return false;
-            }
-            break;
-        default:
-            break;
+            case localValueTypeNUMBER:
+            case localValueTypeSTRING:
+                quoted(value.toString());
+                break;
+            case localValueTypeBOOLEAN:
+                // A negative number is false here, though its text is "ИСТИНА". Meant.
+                quoted(value.num <= 0.0 ? u"false" : u"true");
+                break;
+            case localValueTypeOBJECT:
+                if (!object(value)) {
+                    return false;
+                }
+                break;
+            default:
+                break;
         }
         output_.put(u"}");
         return true;

@@ -52,8 +52,7 @@ void offerClass(std::u16string_view nameEng, std::u16string_view nameRus,
     if (OfferedClass* offered = offeredFind(nameEng)) {
         offered->declare = declare;
     } else {
-        offeredClasses().push_back(
-            {std::u16string(nameEng), std::u16string(nameRus), declare});
+        offeredClasses().push_back({std::u16string(nameEng), std::u16string(nameRus), declare});
     }
 }
 

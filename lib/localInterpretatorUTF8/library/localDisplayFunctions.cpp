@@ -54,9 +54,9 @@ bool memoryDisplay(localCall& call) {
     return call.done();
 }
 
-// The slot of the result is free while the listing runs, so that it does not count itself. Reserving
-// gives the same slot back: it was the lowest free one when the call began, and the listing leaves the
-// others as they are.
+// The slot of the result is free while the listing runs, so that it does not count itself.
+// Reserving gives the same slot back: it was the lowest free one when the call began, and the
+// listing leaves the others as they are.
 bool memoryDisplayData(localCall& call) {
     const Target target = targetOf(call, 0);
     localValueDescription::release(&call.result);

@@ -15,8 +15,8 @@
 namespace localHandlers {
 namespace {
 
-// "*" stands for any run of units, "?" for one unit. A mismatch goes back to the last "*" only, so the
-// cost is at most the product of the lengths.
+// "*" stands for any run of units, "?" for one unit. A mismatch goes back to the last "*" only, so
+// the cost is at most the product of the lengths.
 bool maskMatches(std::u16string_view mask, std::u16string_view name) {
     std::size_t inMask = 0;
     std::size_t inName = 0;
@@ -50,8 +50,8 @@ localString::possibleCodePage codePageByWholeName(std::u16string_view name) {
 }  // namespace
 
 bool base64AppendToFile(localCall& call) {
-    return call.giveBoolean(fileWrite(FileWriteMode::append, localString::codePageBase64,
-                                      call.text(0), call.text(1)));
+    return call.giveBoolean(
+        fileWrite(FileWriteMode::append, localString::codePageBase64, call.text(0), call.text(1)));
 }
 
 // A file that cannot be read fails the call with the status as it was. Meant.
@@ -102,7 +102,8 @@ bool moduleLoad(localCall& call) {
     if (!localStackGuard::enter(call.status, functionName)) {
         return false;
     }
-    // Faults have written their lines by now; for the caller a module that did not load is no fault.
+    // Faults have written their lines by now; for the caller a module that did not load is no
+    // fault.
     int moduleStatus = localErrorTypeOK;
     return call.giveBoolean(textLoad(moduleStatus, module, call.context));
 }
@@ -114,8 +115,7 @@ bool pathExist(localCall& call) {
 bool stringAppendToFile(localCall& call) {
     const auto codePage =
         call.args.size() > 2 ? codePageByWholeName(call.text(2)) : localString::codePageUtf8;
-    return call.giveBoolean(
-        fileWrite(FileWriteMode::append, codePage, call.text(0), call.text(1)));
+    return call.giveBoolean(fileWrite(FileWriteMode::append, codePage, call.text(0), call.text(1)));
 }
 
 // A file that cannot be read fails the call with the status as it was and an empty string. Meant.

@@ -1,5 +1,5 @@
-// The handlers behind the rows of the library's table, by theme. Each starts with arguments that fit its
-// pattern.
+// The handlers behind the rows of the library's table, by theme. Each starts with arguments that
+// fit its pattern.
 #pragma once
 
 #include "localInterpretatorUTF8/class/localMethodTable.h"

@@ -66,7 +66,8 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"BINARYPATH", u"ПРОГРАММАПУТЬ", "", binaryPath},
     {u"CWD", u"КАТАЛОГРАБОЧИЙ", "|s", cwd},
     {u"DATECHOOSEASSTRING", u"ДАТАВЫБРАТЬКАКСТРОКА", "|s", higherLibrary},
-    {u"DATETIMESYSTEMGETASSTRING", u"ДАТАВРЕМЯСИСТЕМНАЯПОЛУЧИТЬКАКСТРОКА", "", dateTimeSystemGetAsString},
+    {u"DATETIMESYSTEMGETASSTRING", u"ДАТАВРЕМЯСИСТЕМНАЯПОЛУЧИТЬКАКСТРОКА", "",
+     dateTimeSystemGetAsString},
     {u"FILEDELETE", u"ФАЙЛУДАЛИТЬ", "s", fileDelete},
     {u"FILEEXIST", u"ФАЙЛСУЩЕСТВУЕТ", "s", fileExist},
     {u"FILES", u"ФАЙЛЫ", "|ss", files},
@@ -103,7 +104,8 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"___TEST__TEXTBROWSER", u"", "o", testTextBrowser},
     {u"___TEST00001", u"", "s", test00001},
     // No members, so listings leave them out, but calls reach them. The first answers the text of a
-    // value that holds a context; the other is VALUETOSTRING under a name that switches it off. Meant.
+    // value that holds a context; the other is VALUETOSTRING under a name that switches it off.
+    // Meant.
     {u"TOSTRING", u"", "", contextToString},
     {u"V1ALUETOSTRING", u"З1НАЧЕНИЕВСТРОКУ", "", contextToStringForTest},
 });

@@ -26,7 +26,8 @@ bool isLess(const localValueDescription& a, const localValueDescription& b) {
 
 using Order = bool (*)(const localValueDescription& candidate, const localValueDescription& best);
 
-// The first argument that no other beats. All must have the type of the first; objects have no order.
+// The first argument that no other beats. All must have the type of the first; objects have no
+// order.
 bool extreme(localCall& call, Order beats) {
     const localValueDescription* best = call.args[0];
     for (const localValueDescription* candidate : call.args) {
@@ -47,8 +48,8 @@ bool absoluteValue(localCall& call) {
     return call.give(std::fabs(call.number(0)));
 }
 
-// The number goes through a 32-bit integer. What that cannot hold, not-a-number included, becomes its
-// lowest value, as the processor's own conversion has it. Meant.
+// The number goes through a 32-bit integer. What that cannot hold, not-a-number included, becomes
+// its lowest value, as the processor's own conversion has it. Meant.
 bool integerPart(localCall& call) {
     const double truncated = std::trunc(call.number(0));
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
@@ -90,7 +91,8 @@ bool randomNumber(localCall& call) {
     return call.give(localRandom() / static_cast<double>(localRandomMax));
 }
 
-// Digits behind the point, or in front of it where they are negative. A third argument is not looked at.
+// Digits behind the point, or in front of it where they are negative. A third argument is not
+// looked at.
 bool rounded(localCall& call) {
     const double value = call.number(0);
     const bool hasDigits = call.args.size() > 1 && call.args[1]->type == localValueTypeNUMBER;

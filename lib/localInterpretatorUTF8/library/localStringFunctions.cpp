@@ -26,8 +26,8 @@ std::size_t countWithin(double count, std::size_t length) {
         std::min<std::uint64_t>(static_cast<std::uint64_t>(whole), length));
 }
 
-// Whether replacing would give a text longer than a value can hold. Occurrences are counted only where
-// so many fit in the text that it could happen.
+// Whether replacing would give a text longer than a value can hold. Occurrences are counted only
+// where so many fit in the text that it could happen.
 bool growsTooLong(std::u16string_view text, std::u16string_view part,
                   std::u16string_view replacement, std::int64_t limit,
                   const localTextSearch& search) {

@@ -1,7 +1,8 @@
 // Finds a part in texts from the left, at a cost that grows with the two lengths only.
 //
-// A short part is compared at each place. For a long one that would cost the product of the lengths in a
-// text of near misses, so a table of its own repetitions tells how far to move after a mismatch.
+// A short part is compared at each place. For a long one that would cost the product of the lengths
+// in a text of near misses, so a table of its own repetitions tells how far to move after a
+// mismatch.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +16,8 @@ public:
     // The part must outlive this object.
     explicit localTextSearch(std::u16string_view part);
 
-    // The 0-based place of the first occurrence at or behind `from`. An empty part is found at `from`,
-    // unless that lies behind the text.
+    // The 0-based place of the first occurrence at or behind `from`. An empty part is found at
+    // `from`, unless that lies behind the text.
     std::size_t find(std::u16string_view text, std::size_t from) const;
 
 private:

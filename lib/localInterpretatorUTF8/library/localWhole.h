@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <limits>
 
-// Truncation toward zero. What 64 bits cannot hold becomes the nearest they can; not-a-number becomes 0.
+// Truncation toward zero. What 64 bits cannot hold becomes the nearest they can; not-a-number
+// becomes 0.
 inline std::int64_t localWhole(double value) {
     constexpr double limit = 9223372036854775808.0;
     if (std::isnan(value)) {

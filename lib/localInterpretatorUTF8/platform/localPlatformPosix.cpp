@@ -38,8 +38,8 @@ void appendUtf8(std::string& bytes, char32_t point) {
     }
 }
 
-// Bytes of a name that are no UTF-8 travel as lone low surrogates U+DC80 to U+DCFF, so that such a file,
-// once listed, can be opened again.
+// Bytes of a name that are no UTF-8 travel as lone low surrogates U+DC80 to U+DCFF, so that such a
+// file, once listed, can be opened again.
 constexpr char16_t strayByteBase = 0xDC00;
 
 bool isStrayByte(char16_t unit) {
@@ -49,8 +49,12 @@ bool isStrayByte(char16_t unit) {
 // Reads one code point at `at` and moves behind it; false for bytes that are no valid UTF-8.
 bool readUtf8(std::string_view bytes, std::size_t& at, char32_t& point) {
     const auto first = static_cast<unsigned char>(bytes[at]);
-    const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2
-                               : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+    const std::size_t length = first < 0x80   ? 1
+                               : first < 0xC2 ? 0
+                               : first < 0xE0 ? 2
+                               : first < 0xF0 ? 3
+                               : first < 0xF5 ? 4
+                                              : 0;
     if (length == 0 || bytes.size() - at < length) {
         return false;
     }
@@ -70,8 +74,8 @@ bool readUtf8(std::string_view bytes, std::size_t& at, char32_t& point) {
     return true;
 }
 
-// Starts `arguments[0]` in a session of its own, owned by no one: the middle process ends at once, so
-// that nothing is left to wait for.
+// Starts `arguments[0]` in a session of its own, owned by no one: the middle process ends at once,
+// so that nothing is left to wait for.
 bool startDetached(const char* const* arguments) {
     std::fflush(nullptr);
     const pid_t middle = fork();
@@ -220,7 +224,7 @@ std::vector<DirectoryEntry> directoryEntries(std::u16string_view name) {
 
 std::uint64_t accessibleMemory() {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> facts(std::fopen("/proc/meminfo", "r"),
-                                                               &std::fclose);
+                                                                &std::fclose);
     char line[128];
     unsigned long long kilobytes = 0;
     while (facts != nullptr && std::fgets(line, sizeof line, facts.get()) != nullptr) {

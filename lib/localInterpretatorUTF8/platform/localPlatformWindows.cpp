@@ -14,8 +14,8 @@ namespace {
 
 const auto processStart = std::chrono::steady_clock::now();
 
-// The name as a system call takes it. A unit 0 would cut a name short and so reach another file; the
-// empty name reaches none.
+// The name as a system call takes it. A unit 0 would cut a name short and so reach another file;
+// the empty name reaches none.
 std::string systemPath(std::u16string_view name) {
     const std::string path = fileNameToBytes(normalizedPath(name));
     return path.find('\0') == std::string::npos ? path : std::string();
@@ -133,7 +133,8 @@ bool startProgram(std::u16string_view commandLine) {
 bool startEditor(std::u16string_view fileName) {
     const bool better = fileReadable(u"C:\\Program Files (x86)\\Notepad++\\notepad++.exe");
     return std::system(((better ? "start \"\" notepad++.exe " : "start \"\" notepad.exe ") +
-                        systemPath(fileName)).c_str()) == 0;
+                        systemPath(fileName))
+                           .c_str()) == 0;
 }
 
 LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name) {

@@ -286,13 +286,14 @@ private:
             if (terminatorStatus == localErrorTypeELSE) {
                 noCondition = true;
             }
-            // A word that ends another construct is read on as if it were ELSEIF; what follows fails.
+            // A word that ends another construct is read on as if it were ELSEIF; what follows
+            // fails.
         }
         return fail(localErrorTypeENDIFEXPECTED);
     }
 
-    // Becomes an assignment and a plain loop. The parentheses keep the bound together against the order of
-    // the operations; it is computed anew on each pass.
+    // Becomes an assignment and a plain loop. The parentheses keep the bound together against the
+    // order of the operations; it is computed anew on each pass.
     bool forStatement() {
         const localUpperName variable(scanStringGetNameToken(text_, pos_));
         if (nextUnit() != u'=') {

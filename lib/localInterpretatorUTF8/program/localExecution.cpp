@@ -68,7 +68,8 @@ bool block(const Run& run) {
     return !run.node.operators.empty() && children(run, run.context);
 }
 
-// The new scope's parent is the caller's and not the definer's: a function sees its caller's variables.
+// The new scope's parent is the caller's and not the definer's: a function sees its caller's
+// variables.
 bool functionBody(const Run& run) {
     if (run.args.size() < run.node.arguments.size()) {
         return run.fail(localErrorTypePARAMETERCOUNT);

@@ -25,8 +25,8 @@ void writeFault(int status, const std::u16string& text, std::uint32_t pos, const
     const std::size_t at = std::min<std::size_t>(pos, text.size());
     const std::size_t lineStart = at == 0 ? 0 : text.rfind(u'\n', at - 1) + 1;
     const std::size_t lineEnd = std::min(text.find(u'\n', at), text.size());
-    const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at),
-                                     u'\n');
+    const auto line =
+        1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), u'\n');
     const double unit = at < text.size() ? text[at] : 0;
     writeLine(std::u16string_view(text).substr(lineStart, lineEnd - lineStart));
     writeLine(statusMessage(status));

@@ -1,7 +1,7 @@
 // Reading a text from a position: the primitives of the scanner, written once for whoever scans.
 //
-// The text ends in a zero unit, so one unit past the end may be looked at. Nothing is allocated: names and
-// strings are views into the text.
+// The text ends in a zero unit, so one unit past the end may be looked at. Nothing is allocated:
+// names and strings are views into the text.
 #pragma once
 
 #include <string>
@@ -58,7 +58,8 @@ struct localCursor {
         return {start, static_cast<std::size_t>(at - start)};
     }
 
-    // No word boundary is asked for: behind an operand, whatever begins with a word of logic is one.
+    // No word boundary is asked for: behind an operand, whatever begins with a word of logic is
+    // one.
     int binaryOperation() {
         skipBlanks();
         if (atEnd()) {
@@ -107,8 +108,8 @@ struct localCursor {
         }
     }
 
-    // The text between two equal delimiters, the first of which is the present unit. False when there is
-    // no second one; the cursor is at the end then.
+    // The text between two equal delimiters, the first of which is the present unit. False when
+    // there is no second one; the cursor is at the end then.
     bool stringToken(std::u16string_view& content) {
         const std::u16string_view rest(at + 1, left() - 1);
         const std::size_t length = rest.find(*at);

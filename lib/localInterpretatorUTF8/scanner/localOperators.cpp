@@ -47,8 +47,8 @@ bool compare(int operation, const Operand& a, const Operand& b, bool& outcome) {
     }
 }
 
-// Both operands are rounded to whole numbers first, so 7.6%2.4 is 8%2; a divisor that rounds to nothing
-// divides as 0 does.
+// Both operands are rounded to whole numbers first, so 7.6%2.4 is 8%2; a divisor that rounds to
+// nothing divides as 0 does.
 bool remainder(int& status, double first, double second, double& outcome) {
     const std::int64_t divisor = std::llrint(second);
     if (divisor == 0) {
@@ -155,8 +155,7 @@ bool binaryOperationByEnumEvaluate(int& status, localValueDescription& result, i
             if (argSecond.type == localValueTypeSTRING) {
                 return onStrings(status, result, operation, argFirst, argSecond);
             }
-            if (argSecond.type >= localValueTypeNUMBER &&
-                argSecond.type <= localValueTypeOBJECT) {
+            if (argSecond.type >= localValueTypeNUMBER && argSecond.type <= localValueTypeOBJECT) {
                 return fail(status, localErrorTypeOPERANDTYPE);
             }
             break;

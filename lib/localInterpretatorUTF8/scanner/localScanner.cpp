@@ -144,8 +144,7 @@ public:
         const char16_t quote = *cursor.at;
         std::u16string_view content;
         if (!cursor.stringToken(content)) {
-            writeLine(std::u16string(
-                          u"ОШИБКА при сборке СТРОКОВОЙ костанты . Ожидается символ '") +
+            writeLine(std::u16string(u"ОШИБКА при сборке СТРОКОВОЙ костанты . Ожидается символ '") +
                       quote + u"'");
             return fail(localErrorTypeSYNTAX);
         }
@@ -241,8 +240,9 @@ private:
         return localUnaryOperationNOT;
     }
 
-    // "?" expression ":" expression behind an operand, as often as it comes. It tests the operand just
-    // read, before any operation that waits for it. Both branches are read, the chosen one is computed.
+    // "?" expression ":" expression behind an operand, as often as it comes. It tests the operand
+    // just read, before any operation that waits for it. Both branches are read, the chosen one is
+    // computed.
     template <Mode mode>
     bool conditionals(Cell<mode>& cell) {
         for (;;) {
@@ -281,8 +281,8 @@ private:
         return true;
     }
 
-    // Operations behind an operand that bind tighter than `weaker`. `next` takes the operation that was
-    // read and belongs further out; the cursor is behind it then.
+    // Operations behind an operand that bind tighter than `weaker`. `next` takes the operation that
+    // was read and belongs further out; the cursor is behind it then.
     template <Mode mode>
     bool operations(Cell<mode>& first, int weaker, int& next) {
         const char16_t* before = cursor.at;
@@ -392,8 +392,7 @@ private:
         const bool done =
             declaration == nullptr
                 ? fail(localErrorTypeCLASSUNKNOWN)
-                : declaration->methodExec(status_, context_, object, name, &args,
-                                          value.asResult());
+                : declaration->methodExec(status_, context_, object, name, &args, value.asResult());
         if (!done) {
             callFailed(name);
             return false;
@@ -428,8 +427,7 @@ void requireNull(const localValueDescription* result, std::u16string_view functi
     }
 }
 
-void requireContext(const localContextUTF8* context, bool onlyCheck,
-                    std::u16string_view function) {
+void requireContext(const localContextUTF8* context, bool onlyCheck, std::u16string_view function) {
     if (context == nullptr && !onlyCheck) {
         exit_FAILURE(u"localInterpretatorUTF8::" + std::u16string(function) +
                      u"() context may be NULL only in onlyCheck!");
@@ -464,9 +462,9 @@ bool scanned(int& status, Scanner& scanner, localPosition& pos, localValueDescri
 
 }  // namespace
 
-bool scanStringGetExpressionAndEvaluete(int& status, const std::u16string& text,
-                                        localPosition& pos, localValueDescription*& result,
-                                        localContextUTF8* context, bool onlyCheck) {
+bool scanStringGetExpressionAndEvaluete(int& status, const std::u16string& text, localPosition& pos,
+                                        localValueDescription*& result, localContextUTF8* context,
+                                        bool onlyCheck) {
     requireNull(result, u"scanStringGetExpressionAndEvaluete");
     requireContext(context, onlyCheck, u"scanStringGetExpressionAndEvaluete");
     Scanner scanner(status, text, pos, context);
@@ -488,9 +486,9 @@ bool scanStringGetOperandAndEvaluete(int& status, const std::u16string& text, lo
         [&](localValueDescription& cell) { return scanner.operand<Mode::evaluate>(cell); });
 }
 
-bool scanStringGetNameTokenAndEvaluete(int& status, const std::u16string& text,
-                                       localPosition& pos, localValueDescription*& result,
-                                       localContextUTF8* context, bool onlyCheck) {
+bool scanStringGetNameTokenAndEvaluete(int& status, const std::u16string& text, localPosition& pos,
+                                       localValueDescription*& result, localContextUTF8* context,
+                                       bool onlyCheck) {
     requireNull(result, u"scanStringGetNameTokenAndEvaluete");
     requireContext(context, onlyCheck, u"scanStringGetNameTokenAndEvaluete");
     Scanner scanner(status, text, pos, context);
@@ -583,8 +581,7 @@ int scanStringGetBinaryOperation(const std::u16string& text, localPosition& pos)
     return operation;
 }
 
-std::u16string scanStringGetFileName(int& status, const std::u16string& text,
-                                     localPosition& pos) {
+std::u16string scanStringGetFileName(int& status, const std::u16string& text, localPosition& pos) {
     localCursor cursor(text, pos);
     cursor.skipBlanks();
     std::u16string_view name;

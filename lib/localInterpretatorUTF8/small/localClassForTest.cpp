@@ -92,8 +92,7 @@ constexpr localAttributeRow attributes[] = {
 constexpr localClassTable table = {
     .nameEng = u"TEST",
     .nameRus = u"ТЕСТ",
-    .description =
-        u"тестовый класс для отладки объектно-ориентированного программирования",
+    .description = u"тестовый класс для отладки объектно-ориентированного программирования",
     .nativeName = u"localClassForTest",
     .construct = []() -> void* { return new localClassForTest; },
     .destroy = [](void* object) { delete static_cast<localClassForTest*>(object); },

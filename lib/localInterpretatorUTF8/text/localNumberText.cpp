@@ -90,8 +90,8 @@ bool readFormat(std::u16string_view format, bool negative, NumberFormat& parts) 
            parts.decimals <= parts.width - 1;
 }
 
-// The decimals of a number below 1 as one whole number, in full length: no integer type holds more than 18.
-// The text of a rest that rounds up to 1 is one digit longer.
+// The decimals of a number below 1 as one whole number, in full length: no integer type holds more
+// than 18. The text of a rest that rounds up to 1 is one digit longer.
 std::string decimalsText(double rest, std::size_t decimals) {
     // Larger powers of ten are not exact as doubles: from there on the binary value is written out.
     constexpr std::size_t largestExactPower = 22;
@@ -106,8 +106,8 @@ std::string decimalsText(double rest, std::size_t decimals) {
     return text.substr(2, decimals);
 }
 
-// The text of a number too large for its field: nines, and the point of the language whatever decimal
-// mark is asked for, no sign. Meant.
+// The text of a number too large for its field: nines, and the point of the language whatever
+// decimal mark is asked for, no sign. Meant.
 std::u16string overflow(const NumberFormat& parts, bool negative) {
     std::u16string nines(parts.width + (negative ? 1 : 0), u'9');
     if (parts.decimals != 0) {
@@ -171,8 +171,7 @@ std::u16string numberFormat(double value, std::u16string_view format) {
             ++whole;  // the fraction rounded up to 1
         }
     }
-    const std::size_t field =
-        parts.decimals == 0 ? parts.width : parts.width - 1 - parts.decimals;
+    const std::size_t field = parts.decimals == 0 ? parts.width : parts.width - 1 - parts.decimals;
     std::u16string digits = widened(std::to_string(whole));
     if (digits.size() > field) {
         return overflow(parts, negative);

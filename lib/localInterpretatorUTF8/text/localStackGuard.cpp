@@ -11,7 +11,8 @@
 namespace localStackGuard {
 namespace {
 
-// What a line of output may need below the deepest point: the window program paints while it is written.
+// What a line of output may need below the deepest point: the window program paints while it is
+// written.
 constexpr std::size_t reserve = std::size_t{1} << 20;
 
 // However large a stack the system gives: beyond this a recursion would use up the slots first.

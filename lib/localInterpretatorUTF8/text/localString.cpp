@@ -28,8 +28,9 @@ void appendCP866(std::string& bytes, char16_t unit) {
     if (unit < 128) {
         bytes += static_cast<char>(unit);
     } else if (unit == u'Ё') {
-        // The places of Ё and ё in CP1251, not in CP866: the reader below expects 240 and 241, and the
-        // two letters do not survive a round trip. Meant, for files written so must stay as they are.
+        // The places of Ё and ё in CP1251, not in CP866: the reader below expects 240 and 241, and
+        // the two letters do not survive a round trip. Meant, for files written so must stay as
+        // they are.
         bytes += static_cast<char>(168);
     } else if (unit == u'ё') {
         bytes += static_cast<char>(184);

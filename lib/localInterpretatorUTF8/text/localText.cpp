@@ -30,8 +30,7 @@ void localText::grow(std::u16string_view text) {
     }
     // A first text takes just its room; one that is appended to is likely to be appended to again.
     const std::size_t capacity = length_ == 0 ? length : std::max<std::size_t>(length * 2, 16);
-    auto* buffer =
-        static_cast<Buffer*>(std::malloc(sizeof(Buffer) + capacity * sizeof(char16_t)));
+    auto* buffer = static_cast<Buffer*>(std::malloc(sizeof(Buffer) + capacity * sizeof(char16_t)));
     if (buffer == nullptr) {
         throw std::bad_alloc();
     }

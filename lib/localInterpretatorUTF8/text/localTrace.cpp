@@ -6,8 +6,8 @@
 
 namespace {
 
-// A very long text goes out in pieces: there may be no memory for its bytes as a whole. Code units are
-// converted one by one, so it may be cut anywhere.
+// A very long text goes out in pieces: there may be no memory for its bytes as a whole. Code units
+// are converted one by one, so it may be cut anywhere.
 void write(std::u16string_view text, std::string_view end) {
     constexpr std::size_t piece = 1 << 16;
     while (text.size() > piece) {

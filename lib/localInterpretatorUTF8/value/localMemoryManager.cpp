@@ -54,7 +54,8 @@ void localMemoryManager::build() {
     }
 }
 
-// Sets or clears the bit of a slot, and those of the words above that thereby begin or cease to have one.
+// Sets or clears the bit of a slot, and those of the words above that thereby begin or cease to
+// have one.
 void localMemoryManager::mark(std::size_t index, bool free) {
     for (Words& level : free_) {
         std::uint64_t& word = level[index / bitsPerWord];

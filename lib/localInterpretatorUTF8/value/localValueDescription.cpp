@@ -21,8 +21,9 @@ std::u16string cutForDump(std::u16string_view text) {
     return text.size() > 30 ? std::u16string(text.substr(0, 50)) + u"..." : std::u16string(text);
 }
 
-// Objects whose last cell is gone. An object that holds others destroys them on its way; a long chain of
-// holders would use up the stack, so destruction runs as a loop over this list and not as a recursion.
+// Objects whose last cell is gone. An object that holds others destroys them on its way; a long
+// chain of holders would use up the stack, so destruction runs as a loop over this list and not as
+// a recursion.
 struct Doomed {
     localClassDeclaration* objClass;
     void* pointer;
@@ -104,7 +105,8 @@ localText localValueDescription::toString() const {
             int status = localErrorTypeOK;
             const localArguments none;
             localSlot result;
-            const bool done = valueMethodExec(status, nullptr, u"toString", &none, result.asResult());
+            const bool done =
+                valueMethodExec(status, nullptr, u"toString", &none, result.asResult());
             return done ? result->wStr : localText();
         }
         default:
@@ -121,7 +123,8 @@ double localValueDescription::toNumber() const {
         case localValueTypeBOOLEAN:
             return num == 0.0 ? 0.0 : 1.0;
         case localValueTypeOBJECT: {
-            // The text of the cell's own address, read as a number. It means nothing and does not fail.
+            // The text of the cell's own address, read as a number. It means nothing and does not
+            // fail.
             char address[32];
             std::snprintf(address, sizeof address, "%p", static_cast<const void*>(this));
             return std::atof(address);
@@ -224,9 +227,9 @@ void localValueDescription::release(localValueDescription* value) {
 
 std::u16string addressText(const void* address) {
     char digits[2 * sizeof(void*)];
-    const auto end = std::to_chars(digits, digits + sizeof digits,
-                                   reinterpret_cast<std::uintptr_t>(address), 16)
-                         .ptr;
+    const auto end =
+        std::to_chars(digits, digits + sizeof digits, reinterpret_cast<std::uintptr_t>(address), 16)
+            .ptr;
     return u"0x" + std::u16string(digits, end);
 }
 

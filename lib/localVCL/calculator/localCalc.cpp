@@ -15,9 +15,9 @@
 namespace {
 
 constexpr int digitsShown = 16;
-constexpr int displayHeight = 56;   // pixels
+constexpr int displayHeight = 56;    // pixels
 constexpr QSize buttonSize{48, 36};  // pixels
-constexpr int precision = 6;        // digits of a number on the stack
+constexpr int precision = 6;         // digits of a number on the stack
 
 const QString clearEntry = QStringLiteral("CE");
 const QString point = QStringLiteral(".");
@@ -57,26 +57,26 @@ QString buttonOfKey(int key) {
         return QString(QChar(u'0' + key - Qt::Key_0));
     }
     switch (key) {
-    case Qt::Key_Period:
-        return point;
-    case Qt::Key_Plus:
-        return QStringLiteral("+");
-    case Qt::Key_Minus:
-        return QStringLiteral("-");
-    case Qt::Key_Asterisk:
-        return QStringLiteral("*");
-    case Qt::Key_Slash:
-        return QStringLiteral("/");
-    case Qt::Key_Equal:
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        return equals;
-    case Qt::Key_Backspace:
-        return QStringLiteral("<-");
-    case Qt::Key_Delete:
-        return clearEntry;
-    default:
-        return {};
+        case Qt::Key_Period:
+            return point;
+        case Qt::Key_Plus:
+            return QStringLiteral("+");
+        case Qt::Key_Minus:
+            return QStringLiteral("-");
+        case Qt::Key_Asterisk:
+            return QStringLiteral("*");
+        case Qt::Key_Slash:
+            return QStringLiteral("/");
+        case Qt::Key_Equal:
+        case Qt::Key_Enter:
+        case Qt::Key_Return:
+            return equals;
+        case Qt::Key_Backspace:
+            return QStringLiteral("<-");
+        case Qt::Key_Delete:
+            return clearEntry;
+        default:
+            return {};
     }
 }
 

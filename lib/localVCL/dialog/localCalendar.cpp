@@ -19,8 +19,7 @@ localCalendar::localCalendar(const QDate& start, QWidget* parent)
     calendar_->setSelectedDate(start.isValid() ? start : QDate::currentDate());
     connect(calendar_, &QCalendarWidget::activated, this, &localCalendar::dateSelected);
     auto* const buttons = new QDialogButtonBox(this);
-    QPushButton* const ok =
-        buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
+    QPushButton* const ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
     ok->setDefault(true);
     buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &localCalendar::dateSelected);

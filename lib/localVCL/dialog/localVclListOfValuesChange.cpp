@@ -106,19 +106,19 @@ DemoDialogForListOfValuesChange::DemoDialogForListOfValuesChange(const QString& 
 QWidget* DemoDialogForListOfValuesChange::fieldOf(const localValueDescription& value,
                                                   Write& write) {
     switch (value.type) {
-    case localValueTypeNUMBER:
-        return lineOf(numberText(value.num), true, write);
-    case localValueTypeSTRING:
-        return lineOf(localVclQString(value.wStr), false, write);
-    case localValueTypeBOOLEAN:
-        return boxOf(value.num != 0, write);
-    default: {
-        auto* const line = new QLineEdit(localVclQString(value.toString()));
-        line->setReadOnly(true);
-        line->setMinimumWidth(fieldWidth);
-        line->setCursorPosition(0);
-        return line;
-    }
+        case localValueTypeNUMBER:
+            return lineOf(numberText(value.num), true, write);
+        case localValueTypeSTRING:
+            return lineOf(localVclQString(value.wStr), false, write);
+        case localValueTypeBOOLEAN:
+            return boxOf(value.num != 0, write);
+        default: {
+            auto* const line = new QLineEdit(localVclQString(value.toString()));
+            line->setReadOnly(true);
+            line->setMinimumWidth(fieldWidth);
+            line->setCursorPosition(0);
+            return line;
+        }
     }
 }
 

@@ -25,9 +25,9 @@ std::int32_t smallestLength(std::int32_t decimals, bool isSigned) {
 localVclEditWidgetNumeric::localVclEditWidgetNumeric(std::int32_t length, std::int32_t decimals,
                                                      bool isSigned, const QString& text,
                                                      QWidget* parent)
-    : QLineEdit(parent)
-    , len(std::max(length, smallestLength(std::max(decimals, 0), isSigned)))
-    , dec(std::max(decimals, 0)) {
+    : QLineEdit(parent),
+      len(std::max(length, smallestLength(std::max(decimals, 0), isSigned))),
+      dec(std::max(decimals, 0)) {
     setFrame(false);
     // In a proportional font blanks alone would not bring the digits to the edge.
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -40,8 +40,7 @@ localDialogFindString::localDialogFindString(const std::vector<std::u16string>& 
     directionLayout->addStretch();
 
     auto* buttons = new QDialogButtonBox;
-    QPushButton* find =
-        buttons->addButton(QStringLiteral("Искать"), QDialogButtonBox::AcceptRole);
+    QPushButton* find = buttons->addButton(QStringLiteral("Искать"), QDialogButtonBox::AcceptRole);
     find->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 

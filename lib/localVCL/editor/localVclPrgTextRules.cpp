@@ -10,21 +10,59 @@ namespace {
 
 using Kind = localVclPrgTextKind;
 
-constexpr std::u16string_view keywords[] = {
-    u"while", u"пока", u"for", u"для", u"to", u"по", u"do", u"цикл", u"break", u"прервать",
-    u"enddo", u"конеццикла", u"если", u"тогда", u"иначеесли", u"иначе", u"конецесли", u"if",
-    u"then", u"elseif", u"else", u"endif", u"переменная", u"перем", u"var", u"процедура",
-    u"конецпроцедуры", u"функция", u"конецфункции", u"procedure", u"endprocedure", u"function",
-    u"endfunction", u"истина", u"ложь", u"true", u"false", u"или", u"or", u"и", u"and", u"не",
-    u"not", u"return", u"возврат"};
+constexpr std::u16string_view keywords[] = {u"while",
+                                            u"пока",
+                                            u"for",
+                                            u"для",
+                                            u"to",
+                                            u"по",
+                                            u"do",
+                                            u"цикл",
+                                            u"break",
+                                            u"прервать",
+                                            u"enddo",
+                                            u"конеццикла",
+                                            u"если",
+                                            u"тогда",
+                                            u"иначеесли",
+                                            u"иначе",
+                                            u"конецесли",
+                                            u"if",
+                                            u"then",
+                                            u"elseif",
+                                            u"else",
+                                            u"endif",
+                                            u"переменная",
+                                            u"перем",
+                                            u"var",
+                                            u"процедура",
+                                            u"конецпроцедуры",
+                                            u"функция",
+                                            u"конецфункции",
+                                            u"procedure",
+                                            u"endprocedure",
+                                            u"function",
+                                            u"endfunction",
+                                            u"истина",
+                                            u"ложь",
+                                            u"true",
+                                            u"false",
+                                            u"или",
+                                            u"or",
+                                            u"и",
+                                            u"and",
+                                            u"не",
+                                            u"not",
+                                            u"return",
+                                            u"возврат"};
 
 // Only the first has "\b" in front. In the others the single backslash makes of the letter behind
 // it that letter itself, so these words are painted at the end of a longer word too; and "\S" is
 // any unit but a blank, so that "xtringFromReplace" is painted as well. Meant.
 constexpr std::u16string_view functionPatterns[] = {
-    u"\\bmessage\\b",           u"\\сообщить\\b",          u"\\StringFromReplace\\b",
-    u"\\строкаИзФайла\\b",      u"\\StringPartReplace\\b", u"\\СтрокаЧастьЗаменить\\b",
-    u"\\FileDelete\\b",         u"\\ФайлУдалить\\b",       u"\\FileExist\\b",
+    u"\\bmessage\\b",      u"\\сообщить\\b",          u"\\StringFromReplace\\b",
+    u"\\строкаИзФайла\\b", u"\\StringPartReplace\\b", u"\\СтрокаЧастьЗаменить\\b",
+    u"\\FileDelete\\b",    u"\\ФайлУдалить\\b",       u"\\FileExist\\b",
     u"\\ФайлСуществует\\b"};
 
 constexpr std::u16string_view operators = u"()+-*<>=,;";

@@ -24,13 +24,12 @@ constexpr int columnsShown = 100;
 constexpr int linesShown = 34;
 
 constexpr std::u16string_view demonstrationFileName = u"W:\\4\\test.prgS";
-constexpr std::u16string_view demonstrationText =
-    u"пол=создатьОбъект(\"Справочник.Товары\");\n"
-    u"пол.выбратьЭлементы();\n"
-    u"если 1=пол.выбран() тогда\n"
-    u"  сообщить(пол.наименование);\n"
-    u"конецЕсли;\n"
-    u"возврат 1;\n";
+constexpr std::u16string_view demonstrationText = u"пол=создатьОбъект(\"Справочник.Товары\");\n"
+                                                  u"пол.выбратьЭлементы();\n"
+                                                  u"если 1=пол.выбран() тогда\n"
+                                                  u"  сообщить(пол.наименование);\n"
+                                                  u"конецЕсли;\n"
+                                                  u"возврат 1;\n";
 
 // White paper and dark blue ink: keywords are red, comments green and strings black, so what has no
 // colour of its own differs from each of them.
@@ -131,8 +130,8 @@ void localVclWidgetEditor::positionShow(std::size_t position) {
     const auto left = static_cast<std::size_t>(before - carriageReturns_.begin());
     const int last = document()->characterCount() - 1;
     QTextCursor cursor = textCursor();
-    cursor.setPosition(static_cast<int>(
-        std::min(position - left, static_cast<std::size_t>(std::max(last, 0)))));
+    cursor.setPosition(
+        static_cast<int>(std::min(position - left, static_cast<std::size_t>(std::max(last, 0)))));
     setTextCursor(cursor);
 }
 

@@ -18,11 +18,10 @@
 
 namespace {
 
-// Where the dialog for a missing file starts: the samples of the working directory, or those beside the
-// program.
+// Where the dialog for a missing file starts: the samples of the working directory, or those beside
+// the program.
 QString samplesFolder() {
-    const QString beside =
-        localVclQString(localStd::pathJoin(localStd::binaryPath(), u"prgTest"));
+    const QString beside = localVclQString(localStd::pathJoin(localStd::binaryPath(), u"prgTest"));
     for (const QString& folder : {QStringLiteral("prgTest"), beside}) {
         if (QDir(folder).exists()) {
             return folder;
@@ -134,8 +133,7 @@ bool localVclWidgetEditor::lossAgreed(std::u16string_view written) {
         if (!lossAsk(QStringLiteral("Знаков, которых файл не может сохранить: %1. Первый из них, "
                                     "\"%2\", стоит в строке %3. В файле они будут потеряны. "
                                     "Сохранить его?")
-                         .arg(QString::number(count),
-                              localVclQString(written.substr(first, units)),
+                         .arg(QString::number(count), localVclQString(written.substr(first, units)),
                               QString::number(line)))) {
             return false;
         }

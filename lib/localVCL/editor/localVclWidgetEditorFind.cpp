@@ -21,8 +21,7 @@ void localVclWidgetEditor::findText(const QString& text, QTextDocument::FindFlag
     if (find(text, flags)) {
         return;
     }
-    moveCursor(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End
-                                                           : QTextCursor::Start);
+    moveCursor(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
     if (find(text, flags)) {
         return;
     }

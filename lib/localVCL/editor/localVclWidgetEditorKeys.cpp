@@ -142,9 +142,9 @@ void localVclWidgetEditor::commentSelection() {
 
 void localVclWidgetEditor::lineAskAndShow() {
     bool accepted = false;
-    const int line = QInputDialog::getInt(
-        this, QStringLiteral("Введите номер строки %1 :").arg(1),
-        QStringLiteral("Введите номер строки:"), 1, 0, lineAsked, 1, &accepted);
+    const int line = QInputDialog::getInt(this, QStringLiteral("Введите номер строки %1 :").arg(1),
+                                          QStringLiteral("Введите номер строки:"), 1, 0, lineAsked,
+                                          1, &accepted);
     if (accepted) {
         lineShow(line);
     }

@@ -1,8 +1,8 @@
 // What is seen: line numbers, the current line, and the colours of the lines in view.
 
 #include <QFontMetrics>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QTextBlock>
 
 #include "editor/localVclWidgetEditorLineNumberArea.h"

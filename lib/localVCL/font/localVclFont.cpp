@@ -30,8 +30,8 @@ constexpr std::array<FontRow, localVclFontCount> table{{
 // What stands in for a family that the system does not have, the first that it does have. Without
 // this a family of fixed pitch could be replaced by a proportional one.
 void nameSubstitutes() {
-    QFont::insertSubstitutions(sansSerif, {"MS Sans Serif", "Microsoft Sans Serif", "DejaVu Sans",
-                                           "Liberation Sans"});
+    QFont::insertSubstitutions(
+        sansSerif, {"MS Sans Serif", "Microsoft Sans Serif", "DejaVu Sans", "Liberation Sans"});
     QFont::insertSubstitutions(arial, {"Arial", "DejaVu Sans", "Liberation Sans"});
     QFont::insertSubstitutions(courier, {"Courier New", "DejaVu Sans Mono", "Liberation Mono"});
 }

@@ -88,14 +88,15 @@ bool localVclHost::openOutsideEditor(std::u16string_view fileName) {
     if (opener.isEmpty() || !qEnvironmentVariableIsEmpty("VISUAL")) {
         return localHost::openOutsideEditor(fileName);
     }
-    return QProcess::startDetached(opener, {localVclQString(localPlatform::normalizedPath(fileName))});
+    return QProcess::startDetached(opener,
+                                   {localVclQString(localPlatform::normalizedPath(fileName))});
 }
 
-bool localVclHost::openEditor(std::u16string_view fileName, localString::possibleCodePage codePage) {
+bool localVclHost::openEditor(std::u16string_view fileName,
+                              localString::possibleCodePage codePage) {
     if (qApp == nullptr) {
         return false;
     }
-    localVclOnWindowThread(
-        [&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
+    localVclOnWindowThread([&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
     return true;
 }

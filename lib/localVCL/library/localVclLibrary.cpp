@@ -15,8 +15,8 @@
 #include "localVCL/font/localVclFont.h"
 #include "localVCL/picture/localVclPicture.h"
 #include "localVCL/text/localVclText.h"
-#include "localVCL/window/localVclWindow.h"
 #include "localVCL/window/localVclOnWindowThread.h"
+#include "localVCL/window/localVclWindow.h"
 
 namespace {
 
@@ -61,9 +61,8 @@ QMessageBox::Icon iconOfKind(double kind) {
 bool messageBox(localCall& call) {
     const QString text = localVclQString(call.text(0));
     const double kind = call.args.size() > 1 ? call.number(1) : 0;
-    localVclOnWindowThread([&] {
-        localVclMessageShow(text, QStringLiteral("Сообщение"), 0, iconOfKind(kind));
-    });
+    localVclOnWindowThread(
+        [&] { localVclMessageShow(text, QStringLiteral("Сообщение"), 0, iconOfKind(kind)); });
     return call.done();
 }
 

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int toolBarHeight = 16;   // pixels
+constexpr int toolBarHeight = 16;    // pixels
 constexpr int subWindowMargin = 11;  // how much a sub-window is wider and higher than its widget
 
 // The plain widget around tool bar and scroll area in a sub-window.

@@ -127,7 +127,7 @@ std::string found(std::string_view name, std::size_t place, std::string_view wor
     return std::string(name) + ':' + std::to_string(place) + ": " + std::string(words) + '\n';
 }
 
-} // namespace
+}  // namespace
 
 localTestFile localTestFileRead(const std::filesystem::path& file) {
     localTestFile test;

@@ -25,7 +25,7 @@
 
 // One line of output that is wanted.
 struct localWantedLine {
-    std::size_t place = 0; // the line of the file, from 1
+    std::size_t place = 0;  // the line of the file, from 1
     bool isPattern = false;
     std::string text;
 };
@@ -38,15 +38,15 @@ struct localWantedStatus {
 // A program, or one typed line, and what it must do.
 struct localTestStep {
     std::size_t place = 0;
-    std::string text; // the typed line; empty for a program, which is read from its file
+    std::string text;  // the typed line; empty for a program, which is read from its file
     std::vector<localWantedLine> output;
     std::optional<localWantedStatus> status;
 };
 
 struct localTestFile {
     bool isTyped = false;
-    std::vector<localTestStep> steps; // one for a program
-    std::string fault;                // why this is no test; empty when it is one
+    std::vector<localTestStep> steps;  // one for a program
+    std::string fault;                 // why this is no test; empty when it is one
 };
 
 localTestFile localTestFileRead(const std::filesystem::path& file);

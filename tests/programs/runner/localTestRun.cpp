@@ -202,7 +202,7 @@ std::string endOfProcess(const std::string& name, int state) {
                      : name + ": ended with exit code " + std::to_string(code) + '\n';
 }
 
-} // namespace
+}  // namespace
 
 std::string localTestRun(const fs::path& file, const std::string& name) {
     const localTestFile test = localTestFileRead(file);

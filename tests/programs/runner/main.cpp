@@ -38,7 +38,7 @@ std::vector<std::string> testsBelow(const fs::path& folder, const std::vector<st
     return names;
 }
 
-} // namespace
+}  // namespace
 
 int main(int argc, char* argv[]) {
     std::error_code unknown;

@@ -72,7 +72,8 @@ TEST_F(coutBuffer, keepsTheLastCharacter) {
 }
 
 TEST_F(coutBuffer, bytesThatAreNoTextDoNotBreakTheLine) {
-    stream << "a\xFF" "b\xD0\nafter\n";
+    stream << "a\xFF"
+              "b\xD0\nafter\n";
     EXPECT_THAT(lines, ElementsAre("a\uFFFDb\uFFFD", "after"));
 }
 
@@ -82,7 +83,9 @@ TEST_F(coutBuffer, zeroByteIsPartOfTheLine) {
 }
 
 TEST_F(coutBuffer, aLetterSplitBetweenTwoTextsIsWhole) {
-    stream << "\xD0" << "\x9A" << "\n";
+    stream << "\xD0"
+           << "\x9A"
+           << "\n";
     EXPECT_THAT(lines, ElementsAre("К"));
 }
 

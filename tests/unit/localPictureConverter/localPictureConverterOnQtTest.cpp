@@ -97,9 +97,11 @@ TEST(localPictureConverterOnQtTest, areasAreCut) {
 
 TEST(localPictureConverterOnQtTest, anAreaWithoutPixelsIsAnEmptyText) {
     const std::u16string text = textOf(fileOf(places(10, 6), "PNG"));
-    for (const localPictureArea& area :
-         {localPictureArea{10, 0, {}, {}}, {0, 6, {}, {}}, {10, 6, {}, {}}, {1, 1, 0, {}},
-          {1, 1, {}, 0}}) {
+    for (const localPictureArea& area : {localPictureArea{10, 0, {}, {}},
+                                         {0, 6, {}, {}},
+                                         {10, 6, {}, {}},
+                                         {1, 1, 0, {}},
+                                         {1, 1, {}, 0}}) {
         EXPECT_EQ(converter.partAsBase64(text, area), u"");
     }
 }

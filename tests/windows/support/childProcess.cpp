@@ -39,7 +39,8 @@ childProcess::childProcess(const QStringList& arguments, Run run) {
     if (id_ == 0) {
         const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
         dup2(nowhere, STDOUT_FILENO);
-        // Not when the end of the pipe has that number already: it would be closed with the program.
+        // Not when the end of the pipe has that number already: it would be closed with the
+        // program.
         const int telling = pipe[1] == tellingDescriptor ? dup(pipe[1]) : pipe[1];
         dup2(telling, tellingDescriptor);
         if (run == Run::stopAtSystemCalls) {
@@ -70,8 +71,7 @@ void childProcess::tell(char letter) {
 }
 
 const QByteArray& childProcess::told() {
-    while (takeLetters(false)) {
-    }
+    while (takeLetters(false)) {}
     return told_;
 }
 
@@ -101,10 +101,10 @@ bool childProcess::nextSystemCall() {
     constexpr int systemCall = SIGTRAP | 0x80;
     // One stop before the call and one behind it.
     for (int stops = 0; stops < 2;) {
-        const int signal = WSTOPSIG(status_) == SIGTRAP || WSTOPSIG(status_) == systemCall
-                               ? 0
-                               : WSTOPSIG(status_);
-        if (id_ < 0 || ptrace(PTRACE_SYSCALL, id_, nullptr, static_cast<long>(signal)) != 0 || !wait()) {
+        const int signal =
+            WSTOPSIG(status_) == SIGTRAP || WSTOPSIG(status_) == systemCall ? 0 : WSTOPSIG(status_);
+        if (id_ < 0 || ptrace(PTRACE_SYSCALL, id_, nullptr, static_cast<long>(signal)) != 0 ||
+            !wait()) {
             return false;
         }
         stops += WSTOPSIG(status_) == systemCall ? 1 : 0;
@@ -129,8 +129,7 @@ bool childProcess::wait() {
 int childProcess::kill() {
     if (id_ > 0) {
         ::kill(id_, SIGKILL);
-        while (wait()) {
-        }
+        while (wait()) {}
     }
     told();
     return WIFSIGNALED(status_) ? WTERMSIG(status_) : 0;

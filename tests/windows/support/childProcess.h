@@ -1,7 +1,7 @@
 // A second run of the test program itself, which the first one ends at a moment of its choice.
 //
-// It is started with arguments that the program's main() understands, tells by single letters how far it
-// got, and never ends by itself.
+// It is started with arguments that the program's main() understands, tells by single letters how
+// far it got, and never ends by itself.
 #pragma once
 
 #include <QByteArray>
@@ -27,12 +27,12 @@ public:
     // Waits until the child has told so many letters; false when it is gone before.
     bool waitFor(qsizetype letters);
 
-    // Lets a child that stops run until its main thread has done one more system call. False when it is
-    // gone.
+    // Lets a child that stops run until its main thread has done one more system call. False when
+    // it is gone.
     bool nextSystemCall();
 
-    // Ends it at once, unless it is gone, and takes the letters that were on their way. Gives the number of
-    // the signal by which it ended, or 0 if it went by itself.
+    // Ends it at once, unless it is gone, and takes the letters that were on their way. Gives the
+    // number of the signal by which it ended, or 0 if it went by itself.
     int kill();
 
 private:

@@ -1,5 +1,5 @@
-// What the tests of the console share: a folder of their own, a console on the screen with the standard
-// output stream led to it, keys, and a host that records.
+// What the tests of the console share: a folder of their own, a console on the screen with the
+// standard output stream led to it, keys, and a host that records.
 #pragma once
 
 #include <QtTest>
@@ -31,7 +31,8 @@ inline const QString prompt = "localInterpretatorUTF8> ";
 // The program's own host, but boxes and the listing of a folder are recorded and not shown.
 class recordingHost : public localVclHost {
 public:
-    void messageBox(MessageKind kind, std::u16string_view title, std::u16string_view text) override {
+    void messageBox(MessageKind kind, std::u16string_view title,
+                    std::u16string_view text) override {
         kinds.push_back(kind);
         boxes.append(localVclQString(title) + "|" + localVclQString(text));
     }
@@ -49,8 +50,8 @@ public:
 using testFiles::read;
 using testFiles::write;
 
-// A text of JSON, in which double quotes are written as single ones: Qt's meta object compiler does not
-// get past raw strings.
+// A text of JSON, in which double quotes are written as single ones: Qt's meta object compiler does
+// not get past raw strings.
 inline QByteArray json(QByteArray text) {
     return text.replace('\'', '"');
 }
@@ -68,8 +69,8 @@ inline void type(QWidget& widget, const QString& text) {
     }
 }
 
-// Each test has an empty folder as the working directory, in which the process counts as started, and no
-// console yet.
+// Each test has an empty folder as the working directory, in which the process counts as started,
+// and no console yet.
 class test : public QObject {
     Q_OBJECT
 
@@ -79,7 +80,7 @@ protected:
     std::unique_ptr<localCoutBuffer> buffer_;
     std::unique_ptr<localConsole> console_;
     std::streambuf* before_ = nullptr;
-    QStringList output_;   // what was written since start(), line by line
+    QStringList output_;    // what was written since start(), line by line
     QStringList starting_;  // what the making of the console wrote
 
     // The console is on the screen and has the keyboard. Ends the one before.

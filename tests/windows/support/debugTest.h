@@ -1,4 +1,5 @@
-// What the tests of watched programs share: a console that stands, and the steps of a program under DEBUG.
+// What the tests of watched programs share: a console that stands, and the steps of a program under
+// DEBUG.
 #pragma once
 
 #include <QRegularExpression>
@@ -67,7 +68,8 @@ protected:
         QTRY_VERIFY_WITH_TIMEOUT(thread->isFinished(), 60000);
         QCoreApplication::processEvents();
     }
-    // Steps until the worker stands at the first place of the text; false when the program ends before.
+    // Steps until the worker stands at the first place of the text; false when the program ends
+    // before.
     bool stepTo(const QString& program, const QString& text) {
         const auto place = int(program.indexOf(text));
         for (int at = stop(); at != place; at = step()) {
@@ -79,17 +81,18 @@ protected:
     }
     // Defines a function of a count that writes so many lines, in which the worker does not stop.
     void defineLines() {
-        consoleTest::write("lines.prg",
-              "FUNCTION lines(n)\nFOR i = 1 TO n DO\n? \"worker\";\nENDDO;\nRETURN n;\nENDFUNCTION;\n");
+        consoleTest::write(
+            "lines.prg",
+            "FUNCTION lines(n)\nFOR i = 1 TO n DO\n? \"worker\";\nENDDO;\nRETURN n;\nENDFUNCTION;\n");
         enter("DO lines.prg");
     }
-    // Lets the worker go to its next stop while this thread takes no events. False when it does not come
-    // to one.
+    // Lets the worker go to its next stop while this thread takes no events. False when it does not
+    // come to one.
     bool goOnUnheard() {
         QAtomicInt stopped = 0;
-        const auto connection =
-            connect(shown().thread(), &MyThread::stopped, shown().thread(), [&] { stopped = 1; },
-                    Qt::DirectConnection);
+        const auto connection = connect(
+            shown().thread(), &MyThread::stopped, shown().thread(), [&] { stopped = 1; },
+            Qt::DirectConnection);
         shown().thread()->fromConsole(u"STEP");
         for (int i = 0; i < 4000 && stopped == 0; ++i) {
             QThread::msleep(5);
@@ -98,7 +101,8 @@ protected:
         return stopped == 1;
     }
     bool isOutput(const QString& start) {
-        return !output_.filter(QRegularExpression("^" + QRegularExpression::escape(start))).isEmpty();
+        return !output_.filter(QRegularExpression("^" + QRegularExpression::escape(start)))
+                    .isEmpty();
     }
 
 protected slots:

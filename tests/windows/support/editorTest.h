@@ -25,7 +25,8 @@ public:
     recordingHost() { install(this); }
     ~recordingHost() override { install(nullptr); }
     void setCursor(Cursor) override {}
-    void messageBox(MessageKind kind, std::u16string_view title, std::u16string_view text) override {
+    void messageBox(MessageKind kind, std::u16string_view title,
+                    std::u16string_view text) override {
         kinds.push_back(kind);
         boxes.append(QString::fromUtf16(title.data(), qsizetype(title.size())) + "|" +
                      QString::fromUtf16(text.data(), qsizetype(text.size())));

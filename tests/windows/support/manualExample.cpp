@@ -101,7 +101,7 @@ bool isLineAsTold(const QString& line, const QString& told) {
     return isAsTold(QString(line).remove(tail).trimmed(), told) || isAsTold(line.trimmed(), told);
 }
 
-} // namespace
+}  // namespace
 
 namespace manualExample {
 
@@ -163,4 +163,4 @@ QString difference(const QStringList& output, const QStringList& told) {
     return at == output.size() ? QString() : "the example does not tell [" + output[at] + "]";
 }
 
-} // namespace manualExample
+}  // namespace manualExample

@@ -29,15 +29,15 @@ struct step {
 
     Kind kind = Kind::type;
     QString text;
-    QString detail; // the kind of a window, the number of a line
+    QString detail;  // the kind of a window, the number of a line
 };
 
 struct example {
-    QString place; // class and page, as "CONTEXT:COLOR"
+    QString place;  // class and page, as "CONTEXT:COLOR"
     QString text;
     bool isSession = false;
     std::vector<step> steps;
-    QStringList output; // as told
+    QStringList output;  // as told
 };
 
 // The examples of the book for the window program; how many there are in all is left in `total`.
@@ -50,4 +50,4 @@ bool isAsTold(const QString& text, const QString& told);
 // Blanks around a line do not count, nor does a trace tail that is not told.
 QString difference(const QStringList& output, const QStringList& told);
 
-} // namespace manualExample
+}  // namespace manualExample

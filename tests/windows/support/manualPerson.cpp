@@ -32,8 +32,8 @@ namespace {
 using manualExample::isAsTold;
 using Kind = manualExample::step::Kind;
 
-constexpr int patience = 10000; // milliseconds until a step counts as impossible
-constexpr int lookAgain = 5;    // milliseconds between two looks
+constexpr int patience = 10000;  // milliseconds until a step counts as impossible
+constexpr int lookAgain = 5;     // milliseconds between two looks
 
 const QMap<QString, Qt::Key> keyNames = {
     {"Ввод", Qt::Key_Return},   {"Вверх", Qt::Key_Up},
@@ -120,7 +120,7 @@ QStringList linesOf(QWidget& window) {
     return lines;
 }
 
-} // namespace
+}  // namespace
 
 manualPerson::manualPerson(localConsole& console, std::function<QStringList()> started)
     : console_(console), started_(std::move(started)) {}
@@ -281,46 +281,48 @@ QString manualPerson::look(const manualExample::step& step) {
     QWidget* const window = front();
     const auto* const editor = window->findChild<localVclWidgetEditor*>();
     switch (step.kind) {
-    case Kind::type:
-        return {};
-    case Kind::window:
-        return lookAtWindow(step);
-    case Kind::seen: {
-        const QStringList lines = linesOf(*window);
-        for (const QString& line : lines) {
-            if (isAsTold(line.trimmed(), step.text.trimmed())) {
-                return {};
+        case Kind::type:
+            return {};
+        case Kind::window:
+            return lookAtWindow(step);
+        case Kind::seen: {
+            const QStringList lines = linesOf(*window);
+            for (const QString& line : lines) {
+                if (isAsTold(line.trimmed(), step.text.trimmed())) {
+                    return {};
+                }
             }
+            return "[" + step.text + "] is not seen, but [" + lines.join('|') + "]";
         }
-        return "[" + step.text + "] is not seen, but [" + lines.join('|') + "]";
-    }
-    case Kind::editorLine: {
-        if (editor == nullptr) {
-            return "no editor shows line " + step.detail;
+        case Kind::editorLine: {
+            if (editor == nullptr) {
+                return "no editor shows line " + step.detail;
+            }
+            const QTextBlock block = editor->textCursor().block();
+            const QString number = QString::number(block.blockNumber() + 1);
+            const bool told = number == step.detail && isAsTold(block.text().trimmed(), step.text);
+            return told ? QString() : "the editor stands in line " + number + ": " + block.text();
         }
-        const QTextBlock block = editor->textCursor().block();
-        const QString number = QString::number(block.blockNumber() + 1);
-        const bool told = number == step.detail && isAsTold(block.text().trimmed(), step.text);
-        return told ? QString() : "the editor stands in line " + number + ": " + block.text();
-    }
-    case Kind::selected: {
-        const QString text = editor == nullptr ? QString() : editor->textCursor().selectedText();
-        return text == step.text ? QString()
-                                 : "selected is [" + text + "], not [" + step.text + "]";
-    }
-    case Kind::maximized: {
-        const QString state = window->isMaximized() ? "да" : "нет";
-        return state == step.text ? QString() : "the window fills the screen: " + state;
-    }
-    case Kind::started: {
-        const QStringList calls = started_();
-        if (calls.size() <= startsTold_) {
-            return "not started: [" + step.text + "]";
+        case Kind::selected: {
+            const QString text =
+                editor == nullptr ? QString() : editor->textCursor().selectedText();
+            return text == step.text ? QString()
+                                     : "selected is [" + text + "], not [" + step.text + "]";
         }
-        const QString& call = calls[startsTold_];
-        startsTold_ += call == step.text ? 1 : 0;
-        return call == step.text ? QString() : "started is [" + call + "], not [" + step.text + "]";
-    }
+        case Kind::maximized: {
+            const QString state = window->isMaximized() ? "да" : "нет";
+            return state == step.text ? QString() : "the window fills the screen: " + state;
+        }
+        case Kind::started: {
+            const QStringList calls = started_();
+            if (calls.size() <= startsTold_) {
+                return "not started: [" + step.text + "]";
+            }
+            const QString& call = calls[startsTold_];
+            startsTold_ += call == step.text ? 1 : 0;
+            return call == step.text ? QString()
+                                     : "started is [" + call + "], not [" + step.text + "]";
+        }
     }
     return "a step of no kind";
 }

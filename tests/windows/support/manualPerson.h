@@ -31,7 +31,7 @@ private:
     struct Key {
         Qt::Key key = Qt::Key_unknown;
         Qt::KeyboardModifiers modifiers;
-        QString letter; // that is typed; empty for any other key
+        QString letter;  // that is typed; empty for any other key
     };
 
     static std::deque<Key> keysOf(const QString& line);
@@ -56,8 +56,8 @@ private:
     std::deque<Key> keys_;
     bool done_ = false;
     QString fault_;
-    QElapsedTimer waiting_;                 // for the present step
-    std::vector<QPointer<QWidget>> opened_; // in the order in which they were shown
+    QElapsedTimer waiting_;                  // for the present step
+    std::vector<QPointer<QWidget>> opened_;  // in the order in which they were shown
     std::size_t windowsTold_ = 0;
     qsizetype startsTold_ = 0;
 };

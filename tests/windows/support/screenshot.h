@@ -4,5 +4,6 @@
 
 class QWidget;
 
-// Saves a picture of a widget as <name>.png for a person to look at. False when it cannot be written.
+// Saves a picture of a widget as <name>.png for a person to look at. False when it cannot be
+// written.
 bool saveScreenshot(QWidget& widget, const QString& name);

@@ -17,7 +17,8 @@ dialogAnswer::~dialogAnswer() {
 
 void dialogAnswer::look() {
     const QPointer<QWidget> dialog = QApplication::activeModalWidget();
-    // Keys go to the widget with the focus, and there is none before the dialog is the active window.
+    // Keys go to the widget with the focus, and there is none before the dialog is the active
+    // window.
     if (dialog.isNull() || !dialog->isActiveWindow() || given_) {
         return;
     }

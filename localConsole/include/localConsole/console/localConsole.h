@@ -1,9 +1,10 @@
-// The console: a command line of green on black, and the host of the context in which typed lines act.
+// The console: a command line of green on black, and the host of the context in which typed lines
+// act.
 //
 // The last block of the document is the input line: a prompt and what is being typed behind it. All
-// blocks above are history that nobody can edit. Output is put above the input line, which is laid anew
-// below it, so that a half-typed command survives a line that arrives meanwhile. Each of these steps
-// works at the end of the document and costs the same however much stands above.
+// blocks above are history that nobody can edit. Output is put above the input line, which is laid
+// anew below it, so that a half-typed command survives a line that arrives meanwhile. Each of these
+// steps works at the end of the document and costs the same however much stands above.
 //
 // While a command runs the console is busy: the prompt shows a wait text and every key is dropped.
 #pragma once
@@ -39,26 +40,30 @@ public:
     localContextUTF8* context() const { return context_.get(); }
     bool isBusy() const { return busy_; }
 
-    // Acts on a command as if it had been typed: the console's own words first, the language else. The
-    // line below shows the prompt in force meanwhile; afterwards the console is free and shows a prompt.
-    // QUIT closes the window, and with it this object once the event loop is reached again.
+    // Acts on a command as if it had been typed: the console's own words first, the language else.
+    // The line below shows the prompt in force meanwhile; afterwards the console is free and shows
+    // a prompt. QUIT closes the window, and with it this object once the event loop is reached
+    // again.
     void cmdExec(const QString& command);
 
     // Puts `text`, or the prompt in force when it is empty, at the end of the document.
     void putPrompt(PromptPlace place, const QString& text = {});
-    // A line of output from the console itself, in place of the line of a running command, and a new
-    // prompt. Ends being busy.
+    // A line of output from the console itself, in place of the line of a running command, and a
+    // new prompt. Ends being busy.
     void putOutputLine(const QString& text);
     // A line of output with no prompt behind it.
     void putResult(const QString& text);
-    // Takes the wait text or the normal prompt into force; the end of being busy removes the wait line.
+    // Takes the wait text or the normal prompt into force; the end of being busy removes the wait
+    // line.
     void setBusy(bool on);
 
-    // Where the window stood last. A coordinate that the settings do not name is that of the window now;
-    // nothing when they name none.
+    // Where the window stood last. A coordinate that the settings do not name is that of the window
+    // now; nothing when they name none.
     std::optional<QPoint> windowPlace() const;
     // The command of a function key, 1 to 12; empty when the key has none.
-    const QString& keyCommand(int key) const { return keyCommands_[static_cast<std::size_t>(key - 1)]; }
+    const QString& keyCommand(int key) const {
+        return keyCommands_[static_cast<std::size_t>(key - 1)];
+    }
     // The editor that shows a program under DEBUG. Null when its window was closed.
     localVclWidgetEditor* editor() const { return editor_; }
     // The run of a program under DEBUG, which may have ended. Null when there was none.
@@ -76,7 +81,8 @@ public slots:
     void operChangedSlot(const localOperatorCompiled* node);
 
 protected:
-    // Writes the window's geometry into the settings, now or as soon as a program under DEBUG stops.
+    // Writes the window's geometry into the settings, now or as soon as a program under DEBUG
+    // stops.
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;

@@ -1,8 +1,9 @@
-// The commands that were typed, kept over restarts in a file of one UTF-8 line each, which only grows.
+// The commands that were typed, kept over restarts in a file of one UTF-8 line each, which only
+// grows.
 //
-// A line reaches the file in one write, so that a process killed at any moment leaves it whole or absent. The
-// system may cut the write of a long line even so; the piece does not count as a line and goes with the next
-// line that is written.
+// A line reaches the file in one write, so that a process killed at any moment leaves it whole or
+// absent. The system may cut the write of a long line even so; the piece does not count as a line
+// and goes with the next line that is written.
 #pragma once
 
 #include <QString>
@@ -12,8 +13,8 @@
 
 class localConsoleHistory {
 public:
-    // Reads the file that the search for files finds. When there is none, a box says so, and the first
-    // command makes one in the working directory.
+    // Reads the file that the search for files finds. When there is none, a box says so, and the
+    // first command makes one in the working directory.
     localConsoleHistory();
 
     // Enters a command unless it is the last one already, and stands behind the last.
@@ -21,7 +22,8 @@ public:
 
     // The line before the place in the history, and goes there. Nothing at the oldest.
     std::optional<QString> back();
-    // Goes one place on and gives the line after that one, empty when there is none. Nothing at the end.
+    // Goes one place on and gives the line after that one, empty when there is none. Nothing at the
+    // end.
     std::optional<QString> forward();
 
     const QStringList& lines() const { return lines_; }

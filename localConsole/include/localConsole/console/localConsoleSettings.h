@@ -1,6 +1,7 @@
-// What the console remembers between starts: the place and size of its window, and the commands of the
-// function keys where a person has named them. The file localConsole.ini lies in the folder where the
-// process was started and holds a value list as JSON; a plain JSON object of keys and values does as well.
+// What the console remembers between starts: the place and size of its window, and the commands of
+// the function keys where a person has named them. The file localConsole.ini lies in the folder
+// where the process was started and holds a value list as JSON; a plain JSON object of keys and
+// values does as well.
 #pragma once
 
 #include <QRect>
@@ -16,7 +17,8 @@ class localValueList;
 
 class localConsoleSettings {
 public:
-    // Reads the file. One that is missing or cannot be read gives no settings, and a line tells why.
+    // Reads the file. One that is missing or cannot be read gives no settings, and a line tells
+    // why.
     localConsoleSettings();
 
     // The file's text as it was read.
@@ -27,9 +29,10 @@ public:
     // "F1" to "F12".
     std::optional<QString> command(std::u16string_view key) const;
 
-    // Writes the window's geometry beside whatever else the file names. The file is replaced in one step,
-    // so that a process killed at any moment leaves the old or the new one, and perhaps localConsole.ini.new
-    // beside it until the next writing. False when it cannot be written; the old one stays then.
+    // Writes the window's geometry beside whatever else the file names. The file is replaced in one
+    // step, so that a process killed at any moment leaves the old or the new one, and perhaps
+    // localConsole.ini.new beside it until the next writing. False when it cannot be written; the
+    // old one stays then.
     bool geometrySave(const QRect& geometry);
 
 private:

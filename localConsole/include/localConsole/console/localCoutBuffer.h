@@ -1,14 +1,15 @@
-// The standard output stream as seen by a window: a stream buffer that tells of every finished line.
+// The standard output stream as seen by a window: a stream buffer that tells of every finished
+// line.
 //
-// The stream has no area to write into, so each byte comes through overflow() and whole texts through
-// xsputn(), which does the same for many bytes at once. A line feed ends a line; what has none yet waits
-// for it. After every line the event loop runs for a moment without the user's input, so that windows are
-// painted while a program runs and yet no key reaches them.
+// The stream has no area to write into, so each byte comes through overflow() and whole texts
+// through xsputn(), which does the same for many bytes at once. A line feed ends a line; what has
+// none yet waits for it. After every line the event loop runs for a moment without the user's
+// input, so that windows are painted while a program runs and yet no key reaches them.
 //
-// A thread of its own may write too: each thread has its own unfinished line, and the signal is queued to
-// the windows' thread. So that waiting lines do not fill the memory, such a thread stands still now and
-// then until the windows' thread has taken them. What it writes after it was asked for its interruption is
-// dropped.
+// A thread of its own may write too: each thread has its own unfinished line, and the signal is
+// queued to the windows' thread. So that waiting lines do not fill the memory, such a thread stands
+// still now and then until the windows' thread has taken them. What it writes after it was asked
+// for its interruption is dropped.
 #pragma once
 
 #include <QObject>

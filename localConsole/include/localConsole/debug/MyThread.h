@@ -1,13 +1,13 @@
-// The worker of a DEBUG run: it compiles a program and runs it, standing still before each statement until
-// the person types STEP.
+// The worker of a DEBUG run: it compiles a program and runs it, standing still before each
+// statement until the person types STEP.
 //
-// The statement engine knows nothing of this: the tree's nodes carry MyThread::execute, which stops, and
-// then runs the node as ever. While the worker stands in its event loop nobody touches the context, so the
-// console may look and assign there; while it runs, the console waits with the next command (waitForStop).
-// That alternation is the whole exclusion, there is no lock.
+// The statement engine knows nothing of this: the tree's nodes carry MyThread::execute, which
+// stops, and then runs the node as ever. While the worker stands in its event loop nobody touches
+// the context, so the console may look and assign there; while it runs, the console waits with the
+// next command (waitForStop). That alternation is the whole exclusion, there is no lock.
 //
-// The object belongs to the windows' thread. It keeps the compiled tree as long as it lives, since signals
-// on their way carry pointers into it.
+// The object belongs to the windows' thread. It keeps the compiled tree as long as it lives, since
+// signals on their way carry pointers into it.
 #pragma once
 
 #include <QMutex>
@@ -26,30 +26,32 @@ class MyThread : public QThread {
     Q_OBJECT
 
 public:
-    // A run of a program's text in a context, which must outlive the run. Puts the variable "thisThread"
-    // into the context.
+    // A run of a program's text in a context, which must outlive the run. Puts the variable
+    // "thisThread" into the context.
     MyThread(std::u16string text, localContextUTF8* context, QObject* parent = nullptr);
     // Ends the program where it stands and waits for the worker.
     ~MyThread() override;
 
-    // Compiles and runs on the calling thread; what fails is told by lines on the standard output stream.
+    // Compiles and runs on the calling thread; what fails is told by lines on the standard output
+    // stream.
     bool call(int& status, const std::u16string& text, localContextUTF8* context);
 
-    // The stepping execute function. On a thread that is no MyThread it does not stop: a function that a
-    // debugged program defined may be called from the console.
+    // The stepping execute function. On a thread that is no MyThread it does not stop: a function
+    // that a debugged program defined may be called from the console.
     static bool execute(int& status, localContextUTF8* context, const localOperatorCompiled& node,
                         const localArguments& args, localValueDescription*& result);
 
-    // Whether the worker has the language for itself: it runs and stands at no stop. Once false it stays so
-    // until the windows' thread lets the worker go on.
+    // Whether the worker has the language for itself: it runs and stands at no stop. Once false it
+    // stays so until the windows' thread lets the worker go on.
     bool isWorking() const { return state_ == State::working && isRunning(); }
     // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile.
     void waitForStop();
-    // Makes the program fail at its present stop, or wherever it works, without a line: a thread that is
-    // asked for its interruption has nothing more to say (localCoutBuffer). Comes back at once.
+    // Makes the program fail at its present stop, or wherever it works, without a line: a thread
+    // that is asked for its interruption has nothing more to say (localCoutBuffer). Comes back at
+    // once.
     void programInterrupt();
-    // Interrupts the program and waits for the worker. Windows are painted meanwhile, and answer what the
-    // program asks.
+    // Interrupts the program and waits for the worker. Windows are painted meanwhile, and answer
+    // what the program asks.
     void programEnd();
 
 signals:

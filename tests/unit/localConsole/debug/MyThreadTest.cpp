@@ -32,7 +32,8 @@ protected:
 TEST_F(watchedRun, callOnTheWindowsThreadRunsThrough) {
     MyThread thread(u"", context.get());
     int status = localErrorTypeOK;
-    EXPECT_TRUE(thread.call(status, u"a = 20;\nFOR i = 1 TO 2 DO\na = a+i;\nENDDO;\n", context.get()));
+    EXPECT_TRUE(
+        thread.call(status, u"a = 20;\nFOR i = 1 TO 2 DO\na = a+i;\nENDDO;\n", context.get()));
     EXPECT_EQ(text(u"a"), "23");
     EXPECT_FALSE(thread.isRunning());
 }
@@ -64,7 +65,8 @@ TEST_F(watchedRun, compileFailuresAreToldAndRunNothing) {
     testing::internal::CaptureStdout();
     EXPECT_FALSE(thread.call(status, u"a = 1;\nENDDO;\n", context.get()));
     EXPECT_EQ(status, localErrorTypeENDDO);
-    EXPECT_THAT(testing::internal::GetCapturedStdout(), HasSubstr(" func: call file: MyThread.cpp"));
+    EXPECT_THAT(testing::internal::GetCapturedStdout(),
+                HasSubstr(" func: call file: MyThread.cpp"));
     EXPECT_EQ(context->varFind(u"a"), nullptr);
 }
 
@@ -97,7 +99,8 @@ TEST_F(watchedRun, tracingFunctionWithoutATraceShowsNothing) {
     int status = localErrorTypeOK;
     localSlot result;
     testing::internal::CaptureStdout();
-    EXPECT_TRUE(localProcess::execute(status, context.get(), node, localArguments(), result.asResult()));
+    EXPECT_TRUE(
+        localProcess::execute(status, context.get(), node, localArguments(), result.asResult()));
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     EXPECT_EQ(status, localErrorTypeRETURN);
     EXPECT_EQ(result->toNumber(), 5);

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "localInterpretatorUTF8/value/localSlot.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
+#include "localInterpretatorUTF8/value/localSlot.h"
 
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -331,7 +331,8 @@ TEST_F(helpPages, pagesFromAListAreKnownByName) {
 }
 
 TEST_F(helpPages, readingGivesBackEverySlot) {
-    static_cast<void>(localSlot::reserve());  // the first one makes the store, which counts as cells
+    static_cast<void>(
+        localSlot::reserve());  // the first one makes the store, which counts as cells
     const auto cells = localValueDescription::counterStaticTotal;
     const auto tables = localValueTable::counterStaticTotal;
     {

@@ -161,7 +161,7 @@ TEST_F(classTest, theFallbackServesObjectsAndNeverStaticCalls) {
     EXPECT_EQ(lastCall->function, "fallback");
     EXPECT_EQ(lastCall->name, "UNKNOWN");
     lastCall.reset();
-    EXPECT_EQ(method(object, u"read"), 27); // an attribute is no method
+    EXPECT_EQ(method(object, u"read"), 27);  // an attribute is no method
     EXPECT_EQ(lastCall->function, "fallback");
     EXPECT_EQ(method(object, u"run"), 54);
     EXPECT_EQ(lastCall->function, "method");
@@ -369,4 +369,4 @@ TEST_F(classTest, creatingIntoAResultThatIsNotNullHalts) {
                 "localContextUTF8::createObj() result must be NULL!");
 }
 
-} // namespace
+}  // namespace

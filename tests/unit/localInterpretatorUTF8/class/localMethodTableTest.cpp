@@ -201,4 +201,4 @@ TEST_F(tableTest, waysToAnswer) {
     EXPECT_EQ(status, 32);
 }
 
-} // namespace
+}  // namespace

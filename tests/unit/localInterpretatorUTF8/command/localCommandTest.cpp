@@ -335,4 +335,4 @@ TEST_F(commandTest, classesAreLoaded) {
     EXPECT_EQ(act("LOAD FILE").status, 37);
 }
 
-} // namespace
+}  // namespace

@@ -136,37 +136,37 @@ TEST_F(localValueListTest, findsTheFirstPresentationThroughAnyChanges) {
         for (int step = 0; step < 20000; ++step) {
             const std::size_t position = list.size() == 0 ? 0 : 1 + below(list.size());
             switch (below(step / 2000 % 2 == 0 ? 40 : 12)) {
-            case 0:
-                list.valueInsert(position, cellOf(0.0), text());
-                break;
-            case 1:
-                list.valueRemove(position);
-                break;
-            case 2:
-            case 3:
-                list.valueRemove(list.size());
-                break;
-            case 4:
-            case 5:
-                list.itemAppend(text());
-                break;
-            case 6:
-            case 7:
-                list.presentationSet(position, text());
-                break;
-            case 8:
-                list.valueSetByPresentation(cellOf(1), text());
-                break;
-            default: {
-                const std::u16string wanted = text();
-                std::size_t expected = 0;
-                for (std::size_t i = list.size(); i > 0; --i) {
-                    if (list.items()[i - 1].presentation.view() == wanted) {
-                        expected = i;
+                case 0:
+                    list.valueInsert(position, cellOf(0.0), text());
+                    break;
+                case 1:
+                    list.valueRemove(position);
+                    break;
+                case 2:
+                case 3:
+                    list.valueRemove(list.size());
+                    break;
+                case 4:
+                case 5:
+                    list.itemAppend(text());
+                    break;
+                case 6:
+                case 7:
+                    list.presentationSet(position, text());
+                    break;
+                case 8:
+                    list.valueSetByPresentation(cellOf(1), text());
+                    break;
+                default: {
+                    const std::u16string wanted = text();
+                    std::size_t expected = 0;
+                    for (std::size_t i = list.size(); i > 0; --i) {
+                        if (list.items()[i - 1].presentation.view() == wanted) {
+                            expected = i;
+                        }
                     }
+                    ASSERT_EQ(list.positionOf(wanted), expected) << "step " << step;
                 }
-                ASSERT_EQ(list.positionOf(wanted), expected) << "step " << step;
-            }
             }
         }
     }

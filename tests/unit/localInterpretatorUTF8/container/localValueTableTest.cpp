@@ -224,17 +224,17 @@ TEST_F(localValueTableTest, sortGivesTheOrderOfExchangingNeighboursForAnyValues)
     const std::vector<std::function<localValueDescription()>> kinds{
         number, text, special, [&]() -> localValueDescription {
             switch (random() % 5) {
-            case 0:
-                return booleanCell(random() % 2 == 0);
-            case 1:
-                return text();
-            case 2: {
-                localValueDescription object;
-                object.objectBind(new countedObject, countedClass());
-                return object;
-            }
-            default:
-                return special();
+                case 0:
+                    return booleanCell(random() % 2 == 0);
+                case 1:
+                    return text();
+                case 2: {
+                    localValueDescription object;
+                    object.objectBind(new countedObject, countedClass());
+                    return object;
+                }
+                default:
+                    return special();
             }
         }};
     for (int round = 0; round < 2000; ++round) {

@@ -134,4 +134,4 @@ TEST_F(contextClassTest, aResultThatIsNotNullHaltsUnderOneName) {
                 "localContextUTF8::classImplementationMethodFunction() result must be NULL!");
 }
 
-} // namespace
+}  // namespace

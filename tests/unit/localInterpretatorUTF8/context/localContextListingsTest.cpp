@@ -150,4 +150,4 @@ TEST_F(listingTest, variablesGoToTheLog) {
     EXPECT_EQ(output.text(), "");
 }
 
-} // namespace
+}  // namespace

@@ -253,7 +253,7 @@ TEST_F(contextTest, ofEqualNamesTheFirstIsFound) {
     declare(context, u"x", 1);
     declare(context, u"x", 2);
     EXPECT_EQ(context.varToString(u"x"), u"1");
-    for (int i = 0; i < 20; ++i) { // also when there are many
+    for (int i = 0; i < 20; ++i) {  // also when there are many
         declare(context, wide("N" + std::to_string(i)), i);
     }
     EXPECT_EQ(context.varToString(u"x"), u"1");
@@ -455,4 +455,4 @@ TEST_F(contextTest, aResultThatIsNotNullHalts) {
                 "localContextUTF8::funcExec() result must be NULL!");
 }
 
-} // namespace
+}  // namespace

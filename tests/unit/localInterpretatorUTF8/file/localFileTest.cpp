@@ -32,8 +32,8 @@ protected:
 TEST_F(localFileTest, linesAreJoinedAndEmptyOnesAtTheStartVanish) {
     struct Row {
         std::string bytes;
-        std::u16string read;   // behind an empty text
-        std::u16string behind; // behind the text "t"
+        std::u16string read;    // behind an empty text
+        std::u16string behind;  // behind the text "t"
         std::u16string loaded;
     };
     const Row rows[] = {
@@ -203,4 +203,4 @@ TEST_F(localFileTest, aLogThatCannotBeOpenedGivesOneLine) {
                                      "] open ERROR! func: logWrite file: localFile.cpp line: "));
 }
 
-} // namespace
+}  // namespace

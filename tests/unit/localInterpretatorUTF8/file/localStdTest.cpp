@@ -73,4 +73,4 @@ TEST(localStd, aFileIsSearchedHereThenBesideTheProgramThenInTheSamples) {
     });
 }
 
-} // namespace
+}  // namespace

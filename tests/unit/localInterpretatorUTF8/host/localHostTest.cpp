@@ -42,4 +42,4 @@ TEST(localHost, aTerminalListsTheWorkingDirectoryFoldersFirst) {
     EXPECT_THAT(output.rawLines(), ElementsAre("z folder/", "b.prg", "Ёлка.prg"));
 }
 
-} // namespace
+}  // namespace

@@ -43,8 +43,8 @@ protected:
         }
         const localArguments args(pointers);
         libraryOutcome outcome;
-        outcome.done = localLibrary::call(outcome.status, &context, name, &args,
-                                          outcome.result.asResult());
+        outcome.done =
+            localLibrary::call(outcome.status, &context, name, &args, outcome.result.asResult());
         return outcome;
     }
 };

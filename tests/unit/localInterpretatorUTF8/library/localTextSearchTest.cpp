@@ -24,7 +24,8 @@ TEST(textSearch, findsAnEmptyPartWhereItLooks) {
     EXPECT_EQ(search.find(u"abc", 4), localTextSearch::nowhere);
 }
 
-// Two letters make many near misses, and parts around the length where the way of searching changes.
+// Two letters make many near misses, and parts around the length where the way of searching
+// changes.
 TEST(textSearch, findsPartsOfAnyLengthAsAPlainSearchDoes) {
     std::mt19937 random(1);
     int found = 0;

@@ -197,4 +197,4 @@ TEST_F(localPlatformTest, theEditorOfThePersonIsStarted) {
     EXPECT_FALSE(startEditor(u""));
 }
 
-} // namespace
+}  // namespace

@@ -63,4 +63,4 @@ TEST_F(localByteCodeTest, isReachedByTheTestFunction) {
     EXPECT_EQ(bad.lines[2], "ByteCode [+]");
 }
 
-} // namespace
+}  // namespace

@@ -51,7 +51,7 @@ TEST_F(compilerTest, trees) {
         {"a.b.c(1);", "BLOCK{ASSIGN [a.b.c(1)]" + end},
         {"a.b = 1;", "BLOCK{ASSIGN [a.b = 1]" + end},
         {"a.b;", "BLOCK{ASSIGN [a.b]" + end},
-        {"f (1);", ""}, // the expression stops at the parenthesis
+        {"f (1);", ""},  // the expression stops at the parenthesis
         {"IF x THEN ELSE ENDIF;", "BLOCK{IF{BLOCK [ x]{} BLOCK{}}" + end},
         {"IF x THEN ? 1; ENDIF;", "BLOCK{IF{BLOCK [ x]{PRINT [1]}}" + end},
         {"ЕСЛИ x ТОГДА ? 1; ИНАЧЕЕСЛИ y ТОГДА ? 2; ИНАЧЕЕСЛИ z ТОГДА ? 3; ИНАЧЕ ? 4; КОНЕЦЕСЛИ;",
@@ -185,7 +185,7 @@ TEST_F(compilerTest, faults) {
         {"IF x THEN ? 1;", 45, 14},
         {"IF x THEN ? 1; ELSE ? 2;", 45, 24},
         {"IF x THEN ELSE", 45, 14},
-        {"IF x THEN ENDDO;", 37, 15}, // what follows is read as the next condition
+        {"IF x THEN ENDDO;", 37, 15},  // what follows is read as the next condition
         {"IF x THEN ELSEIF ENDIF;", 47, 22},
         // Loops.
         {"FOR", 39, 3},
@@ -368,4 +368,4 @@ TEST_F(compilerTest, deepBlocksThatFitAreCompiled) {
     EXPECT_TRUE(compile(text).done);
 }
 
-} // namespace
+}  // namespace

@@ -87,4 +87,4 @@ TEST_F(localDumpTest, kindsThatNoWordProduces) {
                                                         "[4]  localCompiledOperatorTypeBLOCK "));
 }
 
-} // namespace
+}  // namespace

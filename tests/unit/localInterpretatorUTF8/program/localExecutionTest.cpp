@@ -85,7 +85,7 @@ TEST_F(executionTest, aProgramThatFailsLeavesItsStatus) {
          54,
          {"", ">> X='a'-'b'; ", "ERROR!!! Ок. Ошибки отсутствуют", "Ок. Ошибки отсутствуют"}},
         {"VAR x=1; VAR x=2;", 53, {"Переменная не может быть задекларирована повторно."}},
-        {"IF 1 THEN ENDIF;", 54, {"Ок. Ошибки отсутствуют"}}, // a chosen branch without statements
+        {"IF 1 THEN ENDIF;", 54, {"Ок. Ошибки отсутствуют"}},  // a chosen branch without statements
         {"WHILE 1 DO ENDDO;", 54, {"Ок. Ошибки отсутствуют"}},
         {"FUNCTION f() BREAK; ENDFUNCTION; f();",
          19,
@@ -244,7 +244,7 @@ protected:
     outcome runNode(const localOperatorCompiled& node, localArguments args = {}) {
         outcome got{};
         localSlot result;
-        got.status = localErrorTypeSYNTAX; // running sets its own status first
+        got.status = localErrorTypeSYNTAX;  // running sets its own status first
         got.done = node.executeFunction(got.status, &context, node, args, result.asResult());
         got.text = result ? utf8(result->toString()) : "none";
         return got;
@@ -415,4 +415,4 @@ TEST_F(executionTest, aVariantOfTheExecuteFunctionSeesEveryNode) {
     EXPECT_THAT(seenPositions(), ElementsAre(0, 36, 41, 41, 51, 0, 13, 41));
 }
 
-} // namespace
+}  // namespace

@@ -187,12 +187,12 @@ TEST_F(operatorTest, onNumbers) {
         {-7, 4, -3, isNumber("-1")},
         {7.6, 4, 2.4, isNumber("0")},
         {7.4, 4, 2.4, isNumber("1")},
-        {2.5, 4, 10, isNumber("2")}, // to nearest, halves to the even one
+        {2.5, 4, 10, isNumber("2")},  // to nearest, halves to the even one
         {3.5, 4, 10, isNumber("4")},
         {8, 4, 2.6, isNumber("2")},
         {8, 4, 2.5, isNumber("0")},
         {7, 4, 0, failed(21)},
-        {7, 4, 0.4, failed(21)}, // what rounds to nothing divides as nothing
+        {7, 4, 0.4, failed(21)},  // what rounds to nothing divides as nothing
         {-9223372036854775808.0, 4, -1, isNumber("0")},
         {1, 8, 1, is(true)},
         {1, 8, 2, is(false)},
@@ -233,14 +233,14 @@ TEST_F(operatorTest, onStrings) {
         {u"a", 8, u"A", is(false)},        {u"a", 8, u"ab", is(false)},
         {u"", 8, u"", is(true)},           {u"a", 9, u"a", is(false)},
         {u"a", 9, u"b", is(true)},         {u"a", 13, u"b", is(true)},
-        {u"B", 13, u"a", is(true)},  // by code unit, so case counts
-        {u"a", 13, u"ab", is(true)}, // the shorter one comes first
-        {u"z", 13, u"А", is(true)},  // Latin comes before Cyrillic
-        {u"Ё", 13, u"А", is(true)},  // Ё stands before the other Russian letters
-        {u"я", 13, u"ё", is(true)},  // and ё behind them
+        {u"B", 13, u"a", is(true)},   // by code unit, so case counts
+        {u"a", 13, u"ab", is(true)},  // the shorter one comes first
+        {u"z", 13, u"А", is(true)},   // Latin comes before Cyrillic
+        {u"Ё", 13, u"А", is(true)},   // Ё stands before the other Russian letters
+        {u"я", 13, u"ё", is(true)},   // and ё behind them
         {u"a", 12, u"a", is(true)},        {u"b", 12, u"a", is(false)},
         {u"b", 11, u"a", is(true)},        {u"a", 11, u"a", is(false)},
-        {u"a", 10, u"a", is(true)},        {u"10", 13, u"9", is(true)}, // as texts, not as numbers
+        {u"a", 10, u"a", is(true)},        {u"10", 13, u"9", is(true)},  // as texts, not as numbers
     };
     for (const Row& row : rows) {
         EXPECT_EQ(binary(row.operation, text(row.first), text(row.second)), row.wanted)
@@ -347,4 +347,4 @@ TEST_F(operatorTest, theRemainderFollowsTheRoundingMode) {
     EXPECT_EQ(binary(4, number(7.1), number(10)), isNumber("7"));
 }
 
-} // namespace
+}  // namespace

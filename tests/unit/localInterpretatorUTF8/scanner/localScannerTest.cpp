@@ -49,10 +49,10 @@ TEST_F(scannerTest, blanksAndCommentsArePassedOver) {
         {u"a // b", 1, 6},
         {u"/* no */", 0, 0},
         {u"*/ no", 0, 0},
-        {u"\va", 0, 0},      // a vertical tab is no blank
-        {u"\u00A0a", 0, 0},  // nor is the no-break space
-        {u"//\ra\nb", 0, 5}, // a carriage return does not end a comment
-        {u"ab", 7, 2},       // a position past the end is the end
+        {u"\va", 0, 0},       // a vertical tab is no blank
+        {u"\u00A0a", 0, 0},   // nor is the no-break space
+        {u"//\ra\nb", 0, 5},  // a carriage return does not end a comment
+        {u"ab", 7, 2},        // a position past the end is the end
     };
     for (const Row& row : rows) {
         localPosition pos = row.from;
@@ -116,15 +116,15 @@ TEST_F(scannerTest, fileNames) {
         {u"", "", 54, 0},
         {u"  // c", "", 54, 6},
         {u"a.prg", "a.prg", 99, 5},
-        {u" a.prg b", "a.prg", 99, 7}, // one delimiter is consumed
+        {u" a.prg b", "a.prg", 99, 7},  // one delimiter is consumed
         {u"a.prg\n", "a.prg", 99, 6},
         {u"a.prg\tb", "a.prg", 99, 6},
-        {u"a.prg;", "a.prg;", 99, 6}, // a semicolon is none
+        {u"a.prg;", "a.prg;", 99, 6},  // a semicolon is none
         {u"a\rb c", "a\rb", 99, 4},
         {u"\"a b.prg\";", "a b.prg", 99, 9},
         {u"\"\"", "", 99, 2},
         {u"\"a b.prg", "", 37, 8},
-        {u"'a b'", "'a", 99, 3}, // only double quotes hold a name
+        {u"'a b'", "'a", 99, 3},  // only double quotes hold a name
     };
     for (const Row& row : rows) {
         localPosition pos = 0;
@@ -159,7 +159,7 @@ TEST_F(scannerTest, numberTokens) {
         {u"9999999999999999", 54, "10000000000000000", 16},
         {u"123456789.123456", 54, "123456789.12345600128", 16},
         {u"12345678901234567", 36, "", 17},
-        {u"1234567890.123456", 36, "", 17}, // the point counts as a character
+        {u"1234567890.123456", 36, "", 17},  // the point counts as a character
         {u"0000000000000001", 54, "1", 16},
         {u"00000000000000001", 36, "", 17},
         {u".000000000000001", 54, "1.0000000000000000777e-15", 16},
@@ -285,7 +285,7 @@ TEST_F(scannerTest, values) {
         {"НЕ(1=1)", boolean, "ЛОЖЬ"},
         {"не t", boolean, "ЛОЖЬ"},
         {"NOT t", boolean, "ЛОЖЬ"},
-        {"nott", boolean, "ЛОЖЬ"}, // no word boundary is asked for
+        {"nott", boolean, "ЛОЖЬ"},  // no word boundary is asked for
         {"НЕt", boolean, "ЛОЖЬ"},
         {"\"it's\"", string, "it's"},
         {"'say \"x\"'", string, "say \"x\""},
@@ -301,7 +301,7 @@ TEST_F(scannerTest, values) {
         {"0?unknown:3", number, "3"},
         {"1?2:unknown(5)", number, "2"},
         {"t?\"a\":2", string, "a"},
-        {"s?1:2", number, "2"}, // the number in a string's cell decides
+        {"s?1:2", number, "2"},  // the number in a string's cell decides
         {"1?0?10:20:30", number, "20"},
         {"0?1:0?2:3", number, "3"},
         {"1 ? 2 : 3 + 10", number, "2"},
@@ -482,13 +482,13 @@ TEST_F(scannerTest, paths) {
         {"x", "ЧИСЛО", "7"},
         {"X", "ЧИСЛО", "7"},
         {"here.X", "ЧИСЛО", "7"},
-        {"here. x", "ЧИСЛО", "7"}, // blanks behind the point are allowed
+        {"here. x", "ЧИСЛО", "7"},  // blanks behind the point are allowed
         {"here.\n// c\nx", "ЧИСЛО", "7"},
         {"here.here.x", "ЧИСЛО", "7"},
         {"here.o.add(1,2)", "ЧИСЛО", "3"},
         {"o.ADD(1,2)", "ЧИСЛО", "3"},
         {"o.сложить(x,o.add(1,1))", "ЧИСЛО", "9"},
-        {"o.add(1 2)", "ЧИСЛО", "3"}, // nothing between two arguments is enough
+        {"o.add(1 2)", "ЧИСЛО", "3"},  // nothing between two arguments is enough
         {"o.add( 1 , 2 )", "ЧИСЛО", "3"},
         {"o.add(// c\n1,\n2)", "ЧИСЛО", "3"},
         {"o.add(1+1(2))", "ЧИСЛО", "4"},
@@ -576,7 +576,7 @@ TEST_F(scannerTest, faultsOfPaths) {
         {"unknown.y", 10, {}},
         {"o.nothing", 10, {}},
         {"o.ADD", 8, {}},
-        {"o.add", 10, {}}, // an attribute is looked up as it is written
+        {"o.add", 10, {}},  // an attribute is looked up as it is written
         {"here.unknown", 10, {}},
         {"o.add(1,2", 41, {"ожидается  ')' в позиции 9"}},
         {"o.add(1,2;", 37, {}},
@@ -627,14 +627,14 @@ TEST_F(scannerTest, arguments) {
         {u",1)", false, 37, "", 0},
         {u"1,,2)", false, 37, "1 ", 2},
         {u"1+)", false, 37, "", 2},
-        {u"1 ", false, 37, "", 2}, // behind a blank the end is no end of the arguments
+        {u"1 ", false, 37, "", 2},  // behind a blank the end is no end of the arguments
     };
     for (const Row& row : rows) {
         const capturedOutput unseen;
         localPosition pos = 0;
         int status = localErrorTypeOK;
         std::vector<localSlot> values;
-        values.push_back(localSlot::reserve()); // what the sequence held goes
+        values.push_back(localSlot::reserve());  // what the sequence held goes
         EXPECT_EQ(scanStringGetArguments(status, row.text, pos, values, &context, false), row.done)
             << utf8(row.text);
         EXPECT_EQ(status, row.status) << utf8(row.text);
@@ -752,4 +752,4 @@ TEST_F(scannerTest, longFlatExpressionsNeedNoDepth) {
     EXPECT_EQ(evaluate(path + ".x", &context).text, "7");
 }
 
-} // namespace
+}  // namespace

@@ -134,4 +134,4 @@ TEST(localClassForTestLoading, theClassIsThereAfterItIsLoaded) {
     });
 }
 
-} // namespace
+}  // namespace

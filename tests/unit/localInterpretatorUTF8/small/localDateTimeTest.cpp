@@ -94,4 +94,4 @@ TEST_F(localDateTimeTest, aResultThatIsNotNullHalts) {
                 "localDateTime::classImplementationMethodFunction() result must be NULL!");
 }
 
-} // namespace
+}  // namespace

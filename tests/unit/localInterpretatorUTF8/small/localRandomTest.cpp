@@ -29,4 +29,4 @@ TEST(localRandom, numbersFillFifteenBits) {
     EXPECT_EQ(different.size(), 32768U);
 }
 
-} // namespace
+}  // namespace

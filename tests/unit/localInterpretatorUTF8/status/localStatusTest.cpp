@@ -87,7 +87,7 @@ TEST(localStatus, theFixedCodes) {
 TEST(localStatus, theEndOfABodyMapsTheStatus) {
     struct Row {
         int body;
-        int wanted; // with 7 as the status of the caller
+        int wanted;  // with 7 as the status of the caller
         bool success;
     };
     const Row rows[] = {{54, 7, true},   {57, 7, true},   {55, 19, false}, {56, 20, false},
@@ -107,7 +107,7 @@ TEST(localStatus, lineOfPosition) {
     const Row rows[] = {
         {u"", 0, 1, 0},          {u"", 5, 1, 0},          {u"abc", 0, 1, 0},
         {u"abc", 2, 1, 0},       {u"abc", 99, 1, 0},      {u"ab\ncd", 1, 1, 0},
-        {u"ab\ncd", 2, 2, 3}, // the line feed counts into the line that it opens
+        {u"ab\ncd", 2, 2, 3},  // the line feed counts into the line that it opens
         {u"ab\ncd", 3, 2, 3},    {u"ab\ncd", 99, 2, 3},   {u"ab\n", 99, 2, 3},
         {u"\n\n\n", 0, 2, 1},    {u"\n\n\n", 1, 3, 2},    {u"\n\n\n", 2, 4, 3},
         {u"a\n\nb\nc", 3, 3, 3}, {u"a\n\nb\nc", 5, 4, 5},
@@ -141,4 +141,4 @@ TEST(localStatus, positionText) {
     }
 }
 
-} // namespace
+}  // namespace

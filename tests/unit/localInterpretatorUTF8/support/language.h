@@ -157,8 +157,8 @@ struct evaluated {
     bool done = false;
     int status = localErrorTypeOK;
     std::uint32_t pos = 0;
-    std::string type; // as typeName(); empty when there is no value
-    std::string text; // as toString()
+    std::string type;  // as typeName(); empty when there is no value
+    std::string text;  // as toString()
     std::vector<std::string> lines;
 };
 
@@ -170,7 +170,7 @@ protected:
         if (localContextUTF8::globalContext == nullptr) {
             createdGlobal();
         }
-        localSlot::reserve(); // the store stands
+        localSlot::reserve();  // the store stands
         usedSlots_ = localMemoryManager::manager->getUsedCount();
         contexts_ = localContextUTF8::counterStaticTotal;
         output.clear();

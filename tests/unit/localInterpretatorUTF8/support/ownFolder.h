@@ -12,7 +12,7 @@
 class ownFolder {
 public:
     ownFolder() : startedIn_(std::filesystem::current_path()) {
-        localStd::startDirectory(); // the log stays in the folder of the process
+        localStd::startDirectory();  // the log stays in the folder of the process
         const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
         path_ = startedIn_ / (std::string(test->test_suite_name()) + "." + test->name());
         std::filesystem::remove_all(path_);

@@ -98,4 +98,4 @@ TEST(localCharacters, anUpperNameHoldsNamesOfAnyLengthWithTheirHash) {
     }
 }
 
-} // namespace
+}  // namespace

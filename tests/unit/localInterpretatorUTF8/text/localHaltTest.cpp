@@ -35,4 +35,4 @@ TEST(localHalt, showsTheBoxUnderTheArrowCursor) {
             "cursor arrow\nhalt [Halt!!! Runtime error.] [broken]\ncursor restored\n"));
 }
 
-} // namespace
+}  // namespace

@@ -50,4 +50,4 @@ TEST(localNameTable, aNamePutTwiceHoldsTheLastValue) {
     EXPECT_EQ(table.find(u""), nullptr);
 }
 
-} // namespace
+}  // namespace

@@ -150,7 +150,7 @@ TEST(numberFormat, examples) {
         {5, u"Ч5.2,5", error},
         {5, u"Ч5.2,'x", error},
         {5, u" Ч5", error},
-        {1234567, u"Ч7.0.,", error}, // the grouped text is longer than the field
+        {1234567, u"Ч7.0.,", error},  // the grouped text is longer than the field
         {5, u"Ч99999999999999999999", error},
     };
     for (const Row& row : rows) {
@@ -164,7 +164,7 @@ struct formatParts {
     int width;
     int decimals;
     char16_t decimalMark;
-    char16_t groupMark; // a blank stands for no grouping
+    char16_t groupMark;  // a blank stands for no grouping
     bool zeroPad;
 };
 
@@ -278,4 +278,4 @@ TEST(numberFormat, aNumberThatIsNoneDoesNotHarm) {
     EXPECT_EQ(utf8(numberFormat(std::nan(""), u"Ч5")), "    0");
 }
 
-} // namespace
+}  // namespace

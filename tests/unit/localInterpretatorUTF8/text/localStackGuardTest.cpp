@@ -95,4 +95,4 @@ TEST(localStackGuard, leavesNoRoomToAThreadThatAsksOnlyAfterThat) {
     EXPECT_EQ(status, localErrorTypeCODE);
 }
 
-} // namespace
+}  // namespace

@@ -118,8 +118,8 @@ TEST(localString, utf8ReadsPairsThatBeginWithD0AndD1WhateverFollows) {
 }
 
 TEST(localString, utf8ReadsOtherLeadBytesAsOneUnitEach) {
-    EXPECT_EQ(fromUtf8("\xE2\x82\xAC"), std::u16string(3, unreadable));     // the euro
-    EXPECT_EQ(fromUtf8("\xC3\x9F!"), std::u16string(2, unreadable) + u"!"); // the sharp s
+    EXPECT_EQ(fromUtf8("\xE2\x82\xAC"), std::u16string(3, unreadable));      // the euro
+    EXPECT_EQ(fromUtf8("\xC3\x9F!"), std::u16string(2, unreadable) + u"!");  // the sharp s
 }
 
 TEST(localString, realTextsReadAndWrite) {
@@ -201,7 +201,7 @@ TEST(localString, base64CarriesEveryByte) {
 
 TEST(localString, base64PassesOverOtherUnits) {
     EXPECT_EQ(fromBase64(u" Z m9\nvЖ\r\nYg = ="), "foob");
-    EXPECT_EQ(fromBase64(u"Zm9vY"), "foo"); // a rest of fewer than 8 bits is no byte
+    EXPECT_EQ(fromBase64(u"Zm9vY"), "foo");  // a rest of fewer than 8 bits is no byte
 }
 
-} // namespace
+}  // namespace

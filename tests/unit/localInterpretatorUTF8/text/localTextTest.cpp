@@ -29,7 +29,7 @@ TEST(localText, aMovedTextIsEmpty) {
     localText text = u"abc";
     const localText moved = std::move(text);
     EXPECT_EQ(moved.view(), u"abc");
-    EXPECT_TRUE(text.empty()); // NOLINT(bugprone-use-after-move): that state is promised
+    EXPECT_TRUE(text.empty());  // NOLINT(bugprone-use-after-move): that state is promised
 }
 
 TEST(localText, assigningToItselfChangesNothing) {
@@ -149,4 +149,4 @@ TEST(localText, aTextPastTheLongestIsRefused) {
     EXPECT_EQ(text.view(), u"a");
 }
 
-} // namespace
+}  // namespace

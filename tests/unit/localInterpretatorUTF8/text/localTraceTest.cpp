@@ -47,4 +47,4 @@ TEST(localTrace, aLineReachesItsReaderAtOnce) {
     EXPECT_EQ(seen, "line\n");
 }
 
-} // namespace
+}  // namespace

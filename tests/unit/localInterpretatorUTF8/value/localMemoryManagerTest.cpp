@@ -291,4 +291,4 @@ TEST(localMemoryManager, listingsEndAt256Slots) {
     }
 }
 
-} // namespace
+}  // namespace

@@ -34,7 +34,7 @@ TEST_F(localSlotTest, movingHandsTheLinkOn) {
     localValueDescription* value = first.get();
     localSlot second = std::move(first);
     EXPECT_EQ(second.get(), value);
-    EXPECT_FALSE(first); // NOLINT(bugprone-use-after-move): promised
+    EXPECT_FALSE(first);  // NOLINT(bugprone-use-after-move): promised
     EXPECT_EQ(used(), before + 1);
     localSlot third = localSlot::reserve();
     third = std::move(second);
@@ -61,4 +61,4 @@ TEST_F(localSlotTest, handingOverLeavesTheLinkToTheCaller) {
     localValueDescription::release(value);
 }
 
-} // namespace
+}  // namespace

@@ -89,7 +89,7 @@ TEST_F(valueTest, aMoveLeavesTheNumberZero) {
     cell.setVal(u"текст");
     const localValueDescription moved(std::move(cell));
     EXPECT_EQ(moved.toString().view(), u"текст");
-    EXPECT_EQ(cell.type, localValueTypeNUMBER); // NOLINT(bugprone-use-after-move): promised
+    EXPECT_EQ(cell.type, localValueTypeNUMBER);  // NOLINT(bugprone-use-after-move): promised
     EXPECT_EQ(cell.toString().view(), u"0");
 }
 
@@ -149,7 +149,7 @@ TEST_F(valueTest, numberOfEveryKind) {
     cell.num = 5;
     EXPECT_EQ(cell.toNumber(), 0.0);
     bindNew(cell);
-    cell.toNumber(); // has no meaning and does not fail
+    cell.toNumber();  // has no meaning and does not fail
 }
 
 TEST_F(valueTest, typeNames) {
@@ -251,26 +251,26 @@ TEST_F(valueTest, everyWriterLetsGoOfTheObject) {
         bindNew(cell);
         EXPECT_EQ(countedObject::alive, alive + 1);
         switch (writer) {
-        case 0:
-            cell.reset();
-            break;
-        case 1:
-            cell.setVal(1.0);
-            break;
-        case 2:
-            cell.setVal(u"text");
-            break;
-        case 3:
-            cell.setBoolean(true);
-            break;
-        case 4:
-            cell.assign(number);
-            break;
-        default:
-            bindNew(cell);
-            EXPECT_EQ(countedObject::alive, alive + 1) << "the second object stays";
-            cell.reset();
-            break;
+            case 0:
+                cell.reset();
+                break;
+            case 1:
+                cell.setVal(1.0);
+                break;
+            case 2:
+                cell.setVal(u"text");
+                break;
+            case 3:
+                cell.setBoolean(true);
+                break;
+            case 4:
+                cell.assign(number);
+                break;
+            default:
+                bindNew(cell);
+                EXPECT_EQ(countedObject::alive, alive + 1) << "the second object stays";
+                cell.reset();
+                break;
         }
         EXPECT_EQ(countedObject::alive, alive) << "writer " << writer;
     }
@@ -282,7 +282,7 @@ TEST_F(valueTest, assigningTheSameObjectToACellThatSharesItKeepsTheCount) {
     localValueDescription second(first);
     second.assign(first);
     EXPECT_EQ(object->links, 2);
-    second.assign(second); // the count is above 1, so letting go does not destroy
+    second.assign(second);  // the count is above 1, so letting go does not destroy
     EXPECT_EQ(object->links, 1) << "the cell reset itself before it copied itself";
     EXPECT_EQ(second.type, localValueTypeNUMBER);
 }
@@ -351,7 +351,7 @@ TEST_F(valueTest, anObjectThatHoldsItselfIsNeverDestroyed) {
     cell.reset();
     EXPECT_EQ(object->links, 1);
     const localValueDescription holder(object->held);
-    object->held.reset(); // the cycle is opened by hand
+    object->held.reset();  // the cycle is opened by hand
 }
 
 TEST_F(valueTest, equalClassNamesMakeOneClass) {
@@ -472,4 +472,4 @@ TEST_F(valueTest, aResultThatIsNotNullHalts) {
                 "localContextUTF8localValueDescription::getAttr() result must be NULL!");
 }
 
-} // namespace
+}  // namespace

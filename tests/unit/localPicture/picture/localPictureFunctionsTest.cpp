@@ -161,9 +161,8 @@ TEST(localPictureModuleTest, aFolderWithoutTheLibraryHasNoConverter) {
 
 #ifdef KORVO_PICTURE_MODULE
 // A PNG of 2 by 1 pixels, made by hand so that this test needs no toolkit either.
-constexpr std::u16string_view twoPixels =
-    u"iVBORw0KGgoAAAANSUhEUgAAAAIAAAABCAIAAAB7QOjdAAAA"
-    u"DUlEQVR4nGP4zwAE/wEHAAH/4iOeWQAAAABJRU5ErkJggg==";
+constexpr std::u16string_view twoPixels = u"iVBORw0KGgoAAAANSUhEUgAAAAIAAAABCAIAAAB7QOjdAAAA"
+                                          u"DUlEQVR4nGP4zwAE/wEHAAH/4iOeWQAAAABJRU5ErkJggg==";
 
 TEST(localPictureModuleTest, theLibraryBesideTheProgramsConverts) {
     const localPictureConverter* const converter = localPictureModuleLoad(binFolder());

@@ -24,12 +24,51 @@ struct Rule {
 class naiveRules {
 public:
     explicit naiveRules(const std::vector<std::u16string>& functionNames) {
-        for (const char* keyword :
-             {"while", "пока", "for", "для", "to", "по", "do", "цикл", "break", "прервать", "enddo",
-              "конеццикла", "если", "тогда", "иначеесли", "иначе", "конецесли", "if", "then", "elseif",
-              "else", "endif", "переменная", "перем", "var", "процедура", "конецпроцедуры", "функция",
-              "конецфункции", "procedure", "endprocedure", "function", "endfunction", "истина", "ложь",
-              "true", "false", "или", "or", "и", "and", "не", "not", "return", "возврат"}) {
+        for (const char* keyword : {"while",
+                                    "пока",
+                                    "for",
+                                    "для",
+                                    "to",
+                                    "по",
+                                    "do",
+                                    "цикл",
+                                    "break",
+                                    "прервать",
+                                    "enddo",
+                                    "конеццикла",
+                                    "если",
+                                    "тогда",
+                                    "иначеесли",
+                                    "иначе",
+                                    "конецесли",
+                                    "if",
+                                    "then",
+                                    "elseif",
+                                    "else",
+                                    "endif",
+                                    "переменная",
+                                    "перем",
+                                    "var",
+                                    "процедура",
+                                    "конецпроцедуры",
+                                    "функция",
+                                    "конецфункции",
+                                    "procedure",
+                                    "endprocedure",
+                                    "function",
+                                    "endfunction",
+                                    "истина",
+                                    "ложь",
+                                    "true",
+                                    "false",
+                                    "или",
+                                    "or",
+                                    "и",
+                                    "and",
+                                    "не",
+                                    "not",
+                                    "return",
+                                    "возврат"}) {
             add("\\b" + QString::fromUtf8(keyword) + "\\b", Kind::keyword);
         }
         add(QString::fromUtf8("\\bQ[A-Za-zА-Яа-яЁё]+\\b"), Kind::className, Qt::CaseSensitive);
@@ -138,8 +177,9 @@ TEST_F(PrgTextRules, PaintsAProgram) {
 }
 
 TEST_F(PrgTextRules, KeywordsInAnyCase) {
-    for (const char* line : {"WHILE While wHiLe while_ while1 _while", "Пока ПОКА пОкА покаа апока",
-                             "ИНАЧЕЕСЛИ иначеЕсли иначе если", "и И или ИЛИ иили не НЕ", "ёесли еслиё"}) {
+    for (const char* line :
+         {"WHILE While wHiLe while_ while1 _while", "Пока ПОКА пОкА покаа апока",
+          "ИНАЧЕЕСЛИ иначеЕсли иначе если", "и И или ИЛИ иили не НЕ", "ёесли еслиё"}) {
         same(text(line));
     }
     EXPECT_EQ(letters(painted(text("WHILE пОкА"))), "KKKKK.KKKK");
@@ -164,16 +204,16 @@ TEST_F(PrgTextRules, SingleBackslashPatterns) {
 }
 
 TEST_F(PrgTextRules, StringsAndComments) {
-    for (const char* line :
-         {"\"", "\"\"", "\"a", "a\"b\"c\"d", "'a\"b'c\"", "\"if // then\" x", "// \"if\" if", "///", "/ /",
-          "/", "a//", "//", "a / b // c // d", "'//'", "\"'\"'", "x='if';y=\"then\";z='\"';"}) {
+    for (const char* line : {"\"", "\"\"", "\"a", "a\"b\"c\"d", "'a\"b'c\"", "\"if // then\" x",
+                             "// \"if\" if", "///", "/ /", "/", "a//", "//", "a / b // c // d",
+                             "'//'", "\"'\"'", "x='if';y=\"then\";z='\"';"}) {
         same(text(line));
     }
 }
 
 TEST_F(PrgTextRules, ClassNames) {
-    for (const char* line : {"Q", "Qa", "qa", "Q1", "Qa1", "Qa_", "_Qa", "QёЁ", "QQ", "Qto", "(Qa)", "Qa\u0301",
-                             "Qif Qé QA.QB"}) {
+    for (const char* line : {"Q", "Qa", "qa", "Q1", "Qa1", "Qa_", "_Qa", "QёЁ", "QQ", "Qto", "(Qa)",
+                             "Qa\u0301", "Qif Qé QA.QB"}) {
         same(text(line));
     }
 }
@@ -187,24 +227,91 @@ TEST_F(PrgTextRules, EveryFunction) {
 
 TEST_F(PrgTextRules, OddLetters) {
     // Letters whose other case lies far away, combining marks, digits of other scripts, half pairs.
-    for (const char16_t* odd : {u"brea\u212A", u"fal\u017Fe", u"F\u0130ND", u"f\u0131nd", u"\u0130f", u"\u0131f",
-                                u"fileexi\u017Ft", u"if\u0301", u"\u0301if", u"\u0661if", u"if\u00A0then",
-                                u"\u00A0tringFromReplace", u"\u2028tringFromReplace", u"if\u2028then",
-                                u"\xD83Dif", u"if\xDE00", u"\xD83D\xDE00tringFromReplace", u"\u0404сли",
-                                u"STRINGLEN\u200D", u"\u0130\u0130", u"ﬁleexist", u"\u1E9E", u"// a\u2028b"}) {
+    for (const char16_t* odd : {u"brea\u212A",
+                                u"fal\u017Fe",
+                                u"F\u0130ND",
+                                u"f\u0131nd",
+                                u"\u0130f",
+                                u"\u0131f",
+                                u"fileexi\u017Ft",
+                                u"if\u0301",
+                                u"\u0301if",
+                                u"\u0661if",
+                                u"if\u00A0then",
+                                u"\u00A0tringFromReplace",
+                                u"\u2028tringFromReplace",
+                                u"if\u2028then",
+                                u"\xD83Dif",
+                                u"if\xDE00",
+                                u"\xD83D\xDE00tringFromReplace",
+                                u"\u0404сли",
+                                u"STRINGLEN\u200D",
+                                u"\u0130\u0130",
+                                u"ﬁleexist",
+                                u"\u1E9E",
+                                u"// a\u2028b"}) {
         same(QString::fromUtf16(odd));
     }
 }
 
 TEST_F(PrgTextRules, LinesMadeByChance) {
-    std::vector<QString> pieces = {
-        " ", " ", "\t", "\"", "'", "//", "/", "(", ")", "+", "-", "*", "<", ">", "=", ",", ";", ".", "_", "1",
-        "x", "Q", "QString", text("QОкно"), text("ё"), text("Ё"), "if", "IF", "then", text("если"), text("ЕСЛИ"),
-        text("и"), text("не"), "message", text("сообщить"), "StringFromReplace", "tringFromReplace",
-        "stringpartreplace", text("строкаИзФайла"), text("СтрокаЧастьЗаменить"), "FileDelete",
-        text("ФайлУдалить"), "FileExist", text("ФайлСуществует"), "STRINGLEN", "stringlen", text("строкаДлина"),
-        "\\", "[", "?", text("é"), QString(QChar(0x301)), QString(QChar(0x212A)), QString(QChar(0x17F)),
-        QString(QChar(0x130)), QString(QChar(0xA0)), QString(QChar(0xD83D))};
+    std::vector<QString> pieces = {" ",
+                                   " ",
+                                   "\t",
+                                   "\"",
+                                   "'",
+                                   "//",
+                                   "/",
+                                   "(",
+                                   ")",
+                                   "+",
+                                   "-",
+                                   "*",
+                                   "<",
+                                   ">",
+                                   "=",
+                                   ",",
+                                   ";",
+                                   ".",
+                                   "_",
+                                   "1",
+                                   "x",
+                                   "Q",
+                                   "QString",
+                                   text("QОкно"),
+                                   text("ё"),
+                                   text("Ё"),
+                                   "if",
+                                   "IF",
+                                   "then",
+                                   text("если"),
+                                   text("ЕСЛИ"),
+                                   text("и"),
+                                   text("не"),
+                                   "message",
+                                   text("сообщить"),
+                                   "StringFromReplace",
+                                   "tringFromReplace",
+                                   "stringpartreplace",
+                                   text("строкаИзФайла"),
+                                   text("СтрокаЧастьЗаменить"),
+                                   "FileDelete",
+                                   text("ФайлУдалить"),
+                                   "FileExist",
+                                   text("ФайлСуществует"),
+                                   "STRINGLEN",
+                                   "stringlen",
+                                   text("строкаДлина"),
+                                   "\\",
+                                   "[",
+                                   "?",
+                                   text("é"),
+                                   QString(QChar(0x301)),
+                                   QString(QChar(0x212A)),
+                                   QString(QChar(0x17F)),
+                                   QString(QChar(0x130)),
+                                   QString(QChar(0xA0)),
+                                   QString(QChar(0xD83D))};
     std::mt19937 random(20240229);
     const auto upTo = [&](std::size_t count) { return random() % count; };
     for (int round = 0; round < 3000; ++round) {

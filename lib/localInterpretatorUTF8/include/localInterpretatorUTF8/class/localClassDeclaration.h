@@ -1,8 +1,8 @@
 // A class of the language: a table of names and functions that native code fills in.
 //
-// Members are matched by upper-cased name. A member exists once in each language, both leading to the
-// same function, which looks at the name itself. Native code describes a class as a localMethodTable and
-// lets that fill the declaration.
+// Members are matched by upper-cased name. A member exists once in each language, both leading to
+// the same function, which looks at the name itself. Native code describes a class as a
+// localMethodTable and lets that fill the declaration.
 #pragma once
 
 #include <cstdint>
@@ -15,12 +15,13 @@
 #include "localInterpretatorUTF8/text/localNameTable.h"
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 
-// Adds delta to the object's count and gives the new count; delta 0 reads it. Takes the address of the
-// cell's object pointer.
+// Adds delta to the object's count and gives the new count; delta 0 reads it. Takes the address of
+// the cell's object pointer.
 using localLinkFunction = std::int64_t (*)(void** object, std::int64_t delta);
 
-// Runs a method. `object` is null for a static call, which only the constructor (the empty name) allows.
-// `result` is null on entry; the function reserves the slot and the caller owns it, also on failure.
+// Runs a method. `object` is null for a static call, which only the constructor (the empty name)
+// allows. `result` is null on entry; the function reserves the slot and the caller owns it, also on
+// failure.
 using localMethodFunction = bool (*)(int& status, localContextUTF8* context, void*& object,
                                      std::u16string_view name, const localArguments* args,
                                      localValueDescription*& result);
@@ -69,8 +70,9 @@ public:
         return found == nullptr ? nullptr : *found;
     }
 
-    // Runs a method by name. Halts on a non-null `result`. Statuses 11, 12 for a static call without
-    // such a member, 27 where an object has neither member nor class-wide function, and what it sets.
+    // Runs a method by name. Halts on a non-null `result`. Statuses 11, 12 for a static call
+    // without such a member, 27 where an object has neither member nor class-wide function, and
+    // what it sets.
     bool methodExec(int& status, localContextUTF8* context, void*& object, std::u16string_view name,
                     const localArguments* args, localValueDescription*& result);
     // Reads an attribute; the name is looked up as given. Statuses 8, 10, 13. Halts on a non-null

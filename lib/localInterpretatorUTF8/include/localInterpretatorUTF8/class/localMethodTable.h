@@ -1,12 +1,14 @@
-// A class of the language written down as a table: one row a method, with its names in both languages,
-// its argument pattern and the function that does the work.
+// A class of the language written down as a table: one row a method, with its names in both
+// languages, its argument pattern and the function that does the work.
 //
-// One shared piece of code checks the number and the types of arguments and sets the statuses, so that a
-// handler starts with arguments that are right. Listings, highlighting and the manual read the same rows.
+// One shared piece of code checks the number and the types of arguments and sets the statuses, so
+// that a handler starts with arguments that are right. Listings, highlighting and the manual read
+// the same rows.
 //
-// An argument pattern has a letter an argument: s string, n number, b boolean, o object, v any value.
-// "|" begins those that may be left out; "+" at the end lets the last one repeat; "?" alone leaves the
-// whole check to the handler.
+// An argument pattern has a letter an argument: s string, n number, b boolean, o object, v any
+// value.
+// "|" begins those that may be left out; "+" at the end lets the last one repeat; "?" alone leaves
+// the whole check to the handler.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +18,8 @@
 #include "localInterpretatorUTF8/class/localClassDeclaration.h"
 #include "localInterpretatorUTF8/text/localHalt.h"
 
-// What a handler is given. The result is a reserved slot holding the number 0; false must leave a status.
+// What a handler is given. The result is a reserved slot holding the number 0; false must leave a
+// status.
 struct localCall {
     int& status;
     localContextUTF8* context;  // of the call; null when a value is only asked for its text
@@ -65,8 +68,8 @@ struct localAttributeRow {
 // Checks arguments against a pattern: status 31 for a wrong count, then 33 for a wrong type.
 bool localArgumentsCheck(int& status, std::string_view pattern, localArguments args);
 
-// Converts an argument to an index by truncation toward zero; what no 32-bit index can hold becomes 0,
-// which is out of every range.
+// Converts an argument to an index by truncation toward zero; what no 32-bit index can hold becomes
+// 0, which is out of every range.
 std::uint32_t localIndex(double value);
 
 enum class localMemberNames { both, englishOnly };
@@ -104,15 +107,14 @@ template <const localClassTable& table>
 localClassDeclaration* localTableClass() {
     static localClassDeclaration* const declaration = [] {
         auto* made = new localClassDeclaration;
-        localDeclareFromTable(*made, table,
-                              [](int& status, localContextUTF8* context, void*& object,
-                                 std::u16string_view name, const localArguments* args,
-                                 localValueDescription*& result) {
-                                  static const auto rows = localMethodRowIndex(table.methods);
-                                  return localTableMethod(table, localTableClass<table>(), rows,
-                                                          status, context, object, name, args,
-                                                          result);
-                              });
+        localDeclareFromTable(
+            *made, table,
+            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+               const localArguments* args, localValueDescription*& result) {
+                static const auto rows = localMethodRowIndex(table.methods);
+                return localTableMethod(table, localTableClass<table>(), rows, status, context,
+                                        object, name, args, result);
+            });
         return made;
     }();
     return declaration;

@@ -1,10 +1,12 @@
-// A scope of the language: it owns variables and functions, and the global one the registry of classes.
+// A scope of the language: it owns variables and functions, and the global one the registry of
+// classes.
 //
-// Scopes form a chain through `parent` up to the single global context; every function call, module and
-// form has one of its own. A name is looked for from the inside out, the first match wins. The context is
-// also the object of class CONTEXT through which all global functions are reached.
+// Scopes form a chain through `parent` up to the single global context; every function call, module
+// and form has one of its own. A name is looked for from the inside out, the first match wins. The
+// context is also the object of class CONTEXT through which all global functions are reached.
 //
-// Scopes are made for every call, so making one costs no heap work until something is declared in it.
+// Scopes are made for every call, so making one costs no heap work until something is declared in
+// it.
 #pragma once
 
 #include <cstdint>
@@ -46,17 +48,19 @@ public:
 
     // Becomes the global context when there is none, else a child of it.
     localContextUTF8();
-    // A child of `parentContext`; null means the global context, which is made first when there is none.
+    // A child of `parentContext`; null means the global context, which is made first when there is
+    // none.
     explicit localContextUTF8(localContextUTF8* parentContext);
-    // Every variable is reset, also one that somebody else still holds. Meant: that is leaving a scope.
+    // Every variable is reset, also one that somebody else still holds. Meant: that is leaving a
+    // scope.
     virtual ~localContextUTF8();
     localContextUTF8(const localContextUTF8&) = delete;
     localContextUTF8& operator=(const localContextUTF8&) = delete;
 
     // Makes the global context. Halts when it stands already.
     static void createGlobal(int& status);
-    // Sets a context to its first state, seeding the random generator again; the global one gets the
-    // library's functions and the classes that are there from the start.
+    // Sets a context to its first state, seeding the random generator again; the global one gets
+    // the library's functions and the classes that are there from the start.
     bool init(int& status);
 
     // Whether the address is that of a context that stands. A value may hold one that has gone.
@@ -70,15 +74,17 @@ public:
     MessageFunction messageFunction = nullptr;
     bool caseSensitive = false;
 
-    // Variables -------------------------------------------------------------------------------------
+    // Variables
+    // -------------------------------------------------------------------------------------
 
     // The innermost variable of that name, and the context that holds it. Null when there is none.
     localVariableEntry* varFind(std::u16string_view name, localContextUTF8** holder = nullptr);
-    // As varFind for a name in capitals with its hash, for chains without case-sensitive scopes too.
+    // As varFind for a name in capitals with its hash, for chains without case-sensitive scopes
+    // too.
     localVariableEntry* varFindUpper(std::u16string_view name, std::u16string_view upper,
                                      std::uint32_t hash, localContextUTF8** holder);
-    // A new variable of this very context, holding the number 0. The name is stored in capitals unless
-    // the context is case-sensitive. The entry holds until the next declaration.
+    // A new variable of this very context, holding the number 0. The name is stored in capitals
+    // unless the context is case-sensitive. The entry holds until the next declaration.
     localVariableEntry& varDeclare(std::u16string_view name);
     localVariableEntry& varDeclareUpper(const localText& upper, std::uint32_t hash);
     // Removes one variable by its place in variables(), or all from the last to the first.
@@ -90,14 +96,15 @@ public:
     // The value's text, or "variable name not found!".
     std::u16string varToString(std::u16string_view name);
 
-    // The value of a name: the four boolean words before any variable, then variables. Status 10 for an
-    // unknown name.
+    // The value of a name: the four boolean words before any variable, then variables. Status 10
+    // for an unknown name.
     bool valueOfName(int& status, std::u16string_view name, localValueDescription& value);
-    // The value that a bare name in an expression gives: as valueOfName, but the name of a global function
-    // written in capitals cannot be read, status 8.
+    // The value that a bare name in an expression gives: as valueOfName, but the name of a global
+    // function written in capitals cannot be read, status 8.
     bool nameRead(int& status, std::u16string_view name, localValueDescription& value);
 
-    // Functions -------------------------------------------------------------------------------------
+    // Functions
+    // -------------------------------------------------------------------------------------
 
     // The innermost function of a name in capitals, and the number of steps up to it; null and -1.
     const localFunctionEntry* funcFind(std::u16string_view name, int& steps,
@@ -106,7 +113,8 @@ public:
     void funcAdd(std::u16string_view name, std::shared_ptr<const localOperatorCompiled> compiled);
     // Defines all functions of a compiled block, in order.
     void moduleImport(const localOperatorCompiled& module);
-    // Calls a function by name. Halts on a non-null `result`. Statuses 24, 31, 19, 20 and what it sets.
+    // Calls a function by name. Halts on a non-null `result`. Statuses 24, 31, 19, 20 and what it
+    // sets.
     bool funcExec(int& status, std::u16string_view name, const localArguments& args,
                   localValueDescription*& result);
     // Runs a compiled body called from this context, with the statuses of a function's end.
@@ -114,19 +122,23 @@ public:
                   const localArguments& args, localValueDescription*& result);
     const std::vector<localFunctionEntry>& functions() const { return functions_.entries(); }
 
-    // Classes, kept by the global context -------------------------------------------------------------
+    // Classes, kept by the global context
+    // -------------------------------------------------------------
 
     // The first class with that English or Russian name. Null when there is none.
     localClassDeclaration* classFind(std::u16string_view name);
     // As classFind for a name that may have blanks in front; an empty name gives false.
     bool classExists(std::u16string_view name);
-    // True when the class is registered now or was before; false when another holds one of its names.
+    // True when the class is registered now or was before; false when another holds one of its
+    // names.
     bool classRegister(localClassDeclaration* declaration);
-    // A new object of a class. Halts on a non-null `result`. Statuses 14, 11 and what the class sets.
+    // A new object of a class. Halts on a non-null `result`. Statuses 14, 11 and what the class
+    // sets.
     bool createObj(int& status, std::u16string_view className, localValueDescription*& result);
     const std::vector<localClassDeclaration*>& classes() const { return classes_; }
 
-    // Listings, to the standard output stream or another -----------------------------------------------
+    // Listings, to the standard output stream or another
+    // -----------------------------------------------
 
     void dispMemo(std::u16string_view pattern, std::ostream& stream);
     void dispMemo(std::u16string_view pattern);
@@ -157,12 +169,12 @@ private:
     static localContextUTF8* newestAlive_;
 };
 
-// The pattern rule of listings: "?" is any unit, "*" means the rest matches, an empty pattern matches all.
-// Both sides are compared in capitals unless `caseSensitive`.
+// The pattern rule of listings: "?" is any unit, "*" means the rest matches, an empty pattern
+// matches all. Both sides are compared in capitals unless `caseSensitive`.
 bool namePatternMatches(std::u16string_view pattern, std::u16string_view name, bool caseSensitive);
 
 // Where one of the classes that every program has from the start comes from.
 using localClassSource = localClassDeclaration* (*)();
-// Adds a class of a higher library to those that a new global context registers by itself, which are the
-// value list and the value table at first.
+// Adds a class of a higher library to those that a new global context registers by itself, which
+// are the value list and the value table at first.
 void localStartClassAdd(localClassSource source);

@@ -1,8 +1,8 @@
 // What the language asks of the program around it: a screen, a person, other programs.
 //
-// The language knows no toolkit. The host that stands at first serves a terminal: boxes become lines,
-// questions get their default answer, and what needs a window is refused. The window program installs a
-// host of real widgets, tests one that records.
+// The language knows no toolkit. The host that stands at first serves a terminal: boxes become
+// lines, questions get their default answer, and what needs a window is refused. The window program
+// installs a host of real widgets, tests one that records.
 #pragma once
 
 #include <cstddef>
@@ -36,14 +36,15 @@ public:
     // Shows a list of lines in a modal dialog. False where there is none to show it to (status 26).
     virtual bool showList(std::u16string_view title, const std::vector<std::u16string>& lines);
 
-    // Lets a person choose a line in a modal dialog, `startRow` (1-based, 0 none) being selected at first.
-    // Gives the 1-based row, 0 when the dialog was rejected, nothing where there is nobody to ask
-    // (status 26).
+    // Lets a person choose a line in a modal dialog, `startRow` (1-based, 0 none) being selected at
+    // first. Gives the 1-based row, 0 when the dialog was rejected, nothing where there is nobody
+    // to ask (status 26).
     virtual std::optional<std::size_t> chooseRow(std::u16string_view title,
                                                  const std::vector<std::u16string>& lines,
                                                  std::size_t startRow);
 
-    // Starts an outside program by a command line and does not wait. Gives whether it could be started.
+    // Starts an outside program by a command line and does not wait. Gives whether it could be
+    // started.
     virtual bool startProgram(std::u16string_view commandLine);
 
     // Lists the working directory for a person.

@@ -1,4 +1,5 @@
-// Everything that differs by operating system, one function each. One source file a system implements it.
+// Everything that differs by operating system, one function each. One source file a system
+// implements it.
 //
 // Names and paths are wide text in the language's form; the implementation turns them into what its
 // system takes (UTF-8 bytes, or CP1251 on Windows) and both "\\" and "/" into its own separator.
@@ -41,8 +42,8 @@ struct DirectoryEntry {
     std::u16string name;
     bool isDirectory;
 };
-// What lies in a folder, without "." and "..": folders first, then files, each sorted by name. A folder
-// that cannot be read gives an empty list.
+// What lies in a folder, without "." and "..": folders first, then files, each sorted by name. A
+// folder that cannot be read gives an empty list.
 std::vector<DirectoryEntry> directoryEntries(std::u16string_view path);
 
 // Physical memory in bytes that new programs can have.
@@ -62,8 +63,9 @@ bool startProgram(std::u16string_view commandLine);
 // The person's text editor opens the file; nobody waits for it.
 bool startEditor(std::u16string_view fileName);
 
-// A function of a library in a file, whose path is given without the system's ending for such files. The
-// library stays loaded until the process ends. Null when there is no such library or function.
+// A function of a library in a file, whose path is given without the system's ending for such
+// files. The library stays loaded until the process ends. Null when there is no such library or
+// function.
 using LibraryFunction = void (*)();
 LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name);
 

@@ -1,5 +1,5 @@
-// An experimental compiled form of expressions, reached only through ___TEST00001. It knows numbers and
-// nothing executes it.
+// An experimental compiled form of expressions, reached only through ___TEST00001. It knows numbers
+// and nothing executes it.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +12,8 @@ class localByteCode {
 public:
     static constexpr std::int32_t LOAD = 1;  // the operand is an index into the data pool
 
-    // Compiles one operand. Status 37 for what is neither a number nor begins a string or name; those two
-    // add nothing. Status 36 for a number of too many characters.
+    // Compiles one operand. Status 37 for what is neither a number nor begins a string or name;
+    // those two add nothing. Status 36 for a number of too many characters.
     bool compile(int& status, const std::u16string& source);
 
     // Writes the source, the data pool and the instructions to the standard output stream.

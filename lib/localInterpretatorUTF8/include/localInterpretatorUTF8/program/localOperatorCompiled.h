@@ -1,8 +1,8 @@
 // A compiled statement: the structure of a program as a tree, with every expression kept as text.
 //
-// A node is run through its execute function, which children take from their parent: the choice at the
-// root sets the run mode of the whole tree. That is how stepping and tracing attach; the statement engine
-// knows nothing of them.
+// A node is run through its execute function, which children take from their parent: the choice at
+// the root sets the run mode of the whole tree. That is how stepping and tracing attach; the
+// statement engine knows nothing of them.
 #pragma once
 
 #include <cstdint>
@@ -31,19 +31,19 @@ enum localCompiledOperatorType : std::int32_t {
     localCompiledOperatorTypeWHILE = 9,
 };
 
-// Runs a node in a context. `args` are those of a function's body. `result` must be null on entry; what it
-// holds afterwards belongs to the caller, also on failure.
+// Runs a node in a context. `args` are those of a function's body. `result` must be null on entry;
+// what it holds afterwards belongs to the caller, also on failure.
 using localExecuteFunction = bool (*)(int& status, localContextUTF8* context,
-                                      const localOperatorCompiled& node,
-                                      const localArguments& args, localValueDescription*& result);
+                                      const localOperatorCompiled& node, const localArguments& args,
+                                      localValueDescription*& result);
 
 struct localOperatorCompiled {
     // A null function means localOperatorCompiled::execute.
     explicit localOperatorCompiled(localExecuteFunction function = nullptr)
         : executeFunction(function == nullptr ? &execute : function) {}
 
-    // The statement engine. Statuses 16, 31, 53, 55 to 57 and those of expressions and commands. Halts on
-    // a non-null `result`.
+    // The statement engine. Statuses 16, 31, 53, 55 to 57 and those of expressions and commands.
+    // Halts on a non-null `result`.
     static bool execute(int& status, localContextUTF8* context, const localOperatorCompiled& node,
                         const localArguments& args, localValueDescription*& result);
 
@@ -73,7 +73,7 @@ struct localOperatorCompiled {
     std::vector<localOperatorCompiled> operators;
     std::vector<localText> arguments;  // names of the parameters, in capitals
     localExecuteFunction executeFunction;
-    // Functions defined directly in this block, in order. The bodies are shared with the contexts that
-    // know them, so they outlive the tree.
+    // Functions defined directly in this block, in order. The bodies are shared with the contexts
+    // that know them, so they outlive the tree.
     std::vector<std::pair<localText, std::shared_ptr<localOperatorCompiled>>> functions;
 };

@@ -1,6 +1,7 @@
 // The arithmetic, comparison and logic of the language. An operation's code is at the same time its
-// priority: the higher one binds tighter. The order is the language's own: "-" is weaker than "+", "/"
-// weaker than "*", comparisons are tighter than arithmetic and OR is the tightest of all. Meant.
+// priority: the higher one binds tighter. The order is the language's own: "-" is weaker than "+",
+// "/" weaker than "*", comparisons are tighter than arithmetic and OR is the tightest of all.
+// Meant.
 #pragma once
 
 #include "localInterpretatorUTF8/value/localValueDescription.h"
@@ -28,9 +29,9 @@ enum localUnaryOperation : int {
     localUnaryOperationNOT = 2,
 };
 
-// Nothing is converted: both operands must be of one type. The result may be the cell of the first operand,
-// and is in all uses of the language. Statuses 16, 21, 50; an operation that strings do not have gives
-// false and leaves the status as it was. Meant.
+// Nothing is converted: both operands must be of one type. The result may be the cell of the first
+// operand, and is in all uses of the language. Statuses 16, 21, 50; an operation that strings do
+// not have gives false and leaves the status as it was. Meant.
 bool binaryOperationByEnumEvaluate(int& status, localValueDescription& result, int operation,
                                    const localValueDescription& argFirst,
                                    const localValueDescription& argSecond);

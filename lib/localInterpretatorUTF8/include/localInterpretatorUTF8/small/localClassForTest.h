@@ -1,5 +1,5 @@
-// The class TEST, the smallest complete class: an example of how a class is made, and a means to try the
-// handling of objects from programs.
+// The class TEST, the smallest complete class: an example of how a class is made, and a means to
+// try the handling of objects from programs.
 #pragma once
 
 #include <cstdint>

@@ -16,8 +16,8 @@ public:
     // "20261115:10:34:56".
     std::string toStringAscii() const;
 
-    // The class DATE. It is in no registry and CLASSLOAD does not know it; the entry waits for a later
-    // version.
+    // The class DATE. It is in no registry and CLASSLOAD does not know it; the entry waits for a
+    // later version.
     static localClassDeclaration* classDeclaration();
 
     std::int64_t now;  // seconds since 1970

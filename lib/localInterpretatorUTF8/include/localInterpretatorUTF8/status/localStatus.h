@@ -1,7 +1,8 @@
 // The one status that every operation of the interpreter carries by reference, and its words.
 //
-// It is 54 before work starts. An operation that fails returns false and leaves its code here. Codes 0 to
-// 4 tell the compiler which word ended a block, 55 to 58 carry control flow, 5 asks the console to close.
+// It is 54 before work starts. An operation that fails returns false and leaves its code here.
+// Codes 0 to 4 tell the compiler which word ended a block, 55 to 58 carry control flow, 5 asks the
+// console to close.
 #pragma once
 
 #include <cstdint>
@@ -72,18 +73,20 @@ enum localErrorType : int {
 inline constexpr std::u16string_view localErrorTypeATTRIBUTEunknown =
     u"localErrorTypeATTRIBUTEunknown";
 
-// The words of a status; a code without words gives "Неизвестный статус возврата ном: " and the code.
+// The words of a status; a code without words gives "Неизвестный статус возврата ном: " and the
+// code.
 std::u16string statusMessage(int status);
 
-// What a function's end makes of the status its body left: normal end and RETURN give back the status
-// that the caller had, a BREAK or continue that escapes becomes 19 or 20. True when the call succeeded.
+// What a function's end makes of the status its body left: normal end and RETURN give back the
+// status that the caller had, a BREAK or continue that escapes becomes 19 or 20. True when the call
+// succeeded.
 bool statusAfterBody(int& status, int statusOfCaller);
 
-// The line of a position, from 1, and where that line starts. A position past the end counts as the last
-// code unit; a line feed counts into the line that it opens.
+// The line of a position, from 1, and where that line starts. A position past the end counts as the
+// last code unit; a line feed counts into the line that it opens.
 std::uint32_t lineOfPosition(std::u16string_view text, std::uint32_t position,
                              std::uint32_t& lineStart);
 
-// The place of a fault, as "pos :17( line:2, pos: 5)". The column of a line feed is the 32-bit difference
-// below zero, 4294967295. Meant.
+// The place of a fault, as "pos :17( line:2, pos: 5)". The column of a line feed is the 32-bit
+// difference below zero, 4294967295. Meant.
 std::u16string positionText(std::u16string_view text, std::uint32_t position);

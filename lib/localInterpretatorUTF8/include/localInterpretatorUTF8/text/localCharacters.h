@@ -58,8 +58,8 @@ constexpr std::u16string_view trimBoth(std::u16string_view text) {
     return trimRight(trimLeft(text));
 }
 
-// True when `shortText` has at least 4 code units, is no longer than `longText` and begins it. The rule
-// of the command words and of code page names.
+// True when `shortText` has at least 4 code units, is no longer than `longText` and begins it. The
+// rule of the command words and of code page names.
 constexpr bool isPrefix(std::u16string_view shortText, std::u16string_view longText) {
     return shortText.size() >= 4 && longText.substr(0, shortText.size()) == shortText;
 }
@@ -93,9 +93,7 @@ public:
     localUpperName(const localUpperName&) = delete;
     localUpperName& operator=(const localUpperName&) = delete;
 
-    std::u16string_view view() const {
-        return {heap_ != nullptr ? heap_.get() : inline_, size_};
-    }
+    std::u16string_view view() const { return {heap_ != nullptr ? heap_.get() : inline_, size_}; }
     operator std::u16string_view() const { return view(); }
     std::uint32_t hash() const { return hash_; }
     // Whether the name came in capitals already.

@@ -1,7 +1,8 @@
 // A hash table from names to values: open addressing, names held by view.
 //
-// The owner of the names keeps them where they are for as long as the table refers to them. A name put in
-// a second time replaces what stood under it. Nothing is taken out one by one; clear() empties it.
+// The owner of the names keeps them where they are for as long as the table refers to them. A name
+// put in a second time replaces what stood under it. Nothing is taken out one by one; clear()
+// empties it.
 #pragma once
 
 #include <cstddef>

@@ -1,10 +1,10 @@
 // Keeps deep nesting and recursion of a program from running off the end of the stack.
 //
-// Every function that recurses with the depth of a program's text or calls asks here first; near the end
-// it refuses with status 16 and one trace line, and the program fails like any other.
+// Every function that recurses with the depth of a program's text or calls asks here first; near
+// the end it refuses with status 16 and one trace line, and the program fails like any other.
 //
-// Since every block and every expression asks, this is also where another thread can end a program that
-// would not end by itself: it leaves the thread of that program no room at all.
+// Since every block and every expression asks, this is also where another thread can end a program
+// that would not end by itself: it leaves the thread of that program no room at all.
 #pragma once
 
 #include <atomic>
@@ -13,16 +13,18 @@
 
 namespace localStackGuard {
 
-// The lowest address that a thread's stack may reach before the language refuses, null until first asked.
-// Atomic for the sake of endPrograms(); a relaxed read costs nothing.
+// The lowest address that a thread's stack may reach before the language refuses, null until first
+// asked. Atomic for the sake of endPrograms(); a relaxed read costs nothing.
 using Limit = std::atomic<const char*>;
 constinit inline thread_local Limit lowestAllowed = nullptr;
 const char* lowestAllowedFind();
 
 // The limit of the calling thread, good as long as the thread lives.
-inline Limit& ownLimit() { return lowestAllowed; }
-// Called from any thread: on the thread of that limit nothing enters from now on, with status 16 and no
-// line, so whatever program runs there fails.
+inline Limit& ownLimit() {
+    return lowestAllowed;
+}
+// Called from any thread: on the thread of that limit nothing enters from now on, with status 16
+// and no line, so whatever program runs there fails.
 void endPrograms(Limit& limit);
 
 // An address in the calling function's frame.

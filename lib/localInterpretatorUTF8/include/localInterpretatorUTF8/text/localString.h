@@ -1,7 +1,7 @@
 // Bytes to wide text and back. Bytes exist only at files, the console and system calls.
 //
-// The conversions know ASCII and Russian by design: they are short tables and no general encoders. What
-// they cannot write becomes byte 255, what they cannot read becomes the code unit 255.
+// The conversions know ASCII and Russian by design: they are short tables and no general encoders.
+// What they cannot write becomes byte 255, what they cannot read becomes the code unit 255.
 #pragma once
 
 #include <string>
@@ -18,8 +18,8 @@ enum possibleCodePage : int {
     codePageUtf8 = 4,
 };
 
-// "CP866" or "CP1251", cut short to no fewer than 4 letters, in any case and with blanks around; any
-// other name means UTF-8.
+// "CP866" or "CP1251", cut short to no fewer than 4 letters, in any case and with blanks around;
+// any other name means UTF-8.
 possibleCodePage codePageFromName(std::u16string_view name);
 
 std::string toBytes(std::u16string_view text, possibleCodePage codePage);

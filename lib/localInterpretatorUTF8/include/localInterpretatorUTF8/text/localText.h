@@ -1,11 +1,13 @@
 // The text a value holds: UTF-16 code units, shared between all the cells that hold the same text.
 //
-// Values travel by copy between stacks, slots, variables and containers, so a copy must not cost the
-// length of the text. A text is a view on the front part of a counted buffer: copying it takes one more
-// reference. The holder whose view ends where the buffer's used part ends may append in place, since no
-// other holder can see behind its own length; so `s = s + "ab"` in a loop costs what is appended.
+// Values travel by copy between stacks, slots, variables and containers, so a copy must not cost
+// the length of the text. A text is a view on the front part of a counted buffer: copying it takes
+// one more reference. The holder whose view ends where the buffer's used part ends may append in
+// place, since no other holder can see behind its own length; so `s = s + "ab"` in a loop costs
+// what is appended.
 //
-// Counting is not atomic: like the slot store, texts belong to the one thread that runs the interpreter.
+// Counting is not atomic: like the slot store, texts belong to the one thread that runs the
+// interpreter.
 #pragma once
 
 #include <cstddef>
@@ -29,7 +31,8 @@ public:
         }
     }
     localText(localText&& other) noexcept
-        : buffer_(std::exchange(other.buffer_, nullptr)), length_(std::exchange(other.length_, 0)) {}
+        : buffer_(std::exchange(other.buffer_, nullptr)),
+          length_(std::exchange(other.length_, 0)) {}
     ~localText() { drop(); }
 
     localText& operator=(const localText& other) noexcept {

@@ -1,8 +1,8 @@
 // Lines on the standard output stream: the language writes there and nothing else does.
 //
-// A diagnostic line ends in one tail, which names the reporting function, its source file without folders
-// and the line: " func: F file: X line: N". The function's name is given by the caller, since some
-// functions report under a name of their own.
+// A diagnostic line ends in one tail, which names the reporting function, its source file without
+// folders and the line: " func: F file: X line: N". The function's name is given by the caller,
+// since some functions report under a name of their own.
 #pragma once
 
 #include <source_location>
@@ -13,7 +13,8 @@
 std::string traceTail(std::string_view function,
                       std::source_location place = std::source_location::current());
 
-// One line: the text, and a line end. The stream is flushed, so that a pipe or window sees it at once.
+// One line: the text, and a line end. The stream is flushed, so that a pipe or window sees it at
+// once.
 void writeLine(std::u16string_view text = {});
 
 // One line: the text and the tail of the calling place.

@@ -1,5 +1,6 @@
-// The live counters that the memory listing prints, one line each, in a fixed order. A class that lives
-// in a higher library hands its counter in when it is first used; until then its line shows 0.
+// The live counters that the memory listing prints, one line each, in a fixed order. A class that
+// lives in a higher library hands its counter in when it is first used; until then its line shows
+// 0.
 #pragma once
 
 #include <cstdint>
@@ -7,8 +8,8 @@
 #include <string_view>
 
 struct localCounter {
-    std::string_view name;       // "localValueList::counterStaticTotal"
-    const std::int64_t* total;   // null while the class is not there
+    std::string_view name;      // "localValueList::counterStaticTotal"
+    const std::int64_t* total;  // null while the class is not there
 };
 
 // All counters in the order of the listing.

@@ -1,9 +1,10 @@
-// The store of all run-time values that are passed by pointer: one array of slots, made at the first
-// reservation and never grown, so that a pointer to a slot stays good for the whole run.
+// The store of all run-time values that are passed by pointer: one array of slots, made at the
+// first reservation and never grown, so that a pointer to a slot stays good for the whole run.
 //
-// The lowest free slot is always given; that shows in listings and must stay. Finding it costs three
-// steps whatever is in use: a tree of bit words, 64 children a word, marks where something is free.
-// Slots are constructed the first time they are given, so a short program never touches most of them.
+// The lowest free slot is always given; that shows in listings and must stay. Finding it costs
+// three steps whatever is in use: a tree of bit words, 64 children a word, marks where something is
+// free. Slots are constructed the first time they are given, so a short program never touches most
+// of them.
 #pragma once
 
 #include <array>
@@ -31,8 +32,8 @@ public:
     localMemoryManager(const localMemoryManager&) = delete;
     localMemoryManager& operator=(const localMemoryManager&) = delete;
 
-    // The lowest free slot, holding the number 0, with one link that the caller owns. Halts when none is
-    // free.
+    // The lowest free slot, holding the number 0, with one link that the caller owns. Halts when
+    // none is free.
     localValueDescription* reserveSlot();
 
     // The array's length: 0 before the first reservation, then the capacity. Not the slots in use.
@@ -42,7 +43,8 @@ public:
     // Takes a slot back whose last link is gone. Called by whoever lowered linkCounter to 0.
     void slotFreed(const localValueDescription* slot);
 
-    // The listing: the slots line by line when there are at most 256, the totals and the live counters.
+    // The listing: the slots line by line when there are at most 256, the totals and the live
+    // counters.
     static void memoryDisplayData(std::ostream& stream);
     static void memoryDisplayData();
     // Appends the listing to a file.

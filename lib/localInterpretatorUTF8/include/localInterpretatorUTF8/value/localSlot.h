@@ -1,8 +1,8 @@
 // A link on one slot of the store, given back when this object goes.
 //
-// Slots are shared by counting: every holder owns one link, and the value in a slot lives until the last
-// link is given back. Holding the link in an object makes "every path gives back what it took" true by
-// construction. Moved, never copied.
+// Slots are shared by counting: every holder owns one link, and the value in a slot lives until the
+// last link is given back. Holding the link in an object makes "every path gives back what it took"
+// true by construction. Moved, never copied.
 #pragma once
 
 #include <utility>

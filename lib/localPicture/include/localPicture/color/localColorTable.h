@@ -12,9 +12,9 @@
 struct localColorRow {
     std::u16string_view english;
     std::u16string_view russian;
-    int globalColor;         // the toolkit's number of the colour
+    int globalColor;           // the toolkit's number of the colour
     std::u16string_view text;  // "#rrggbb"
-    std::uint32_t number;    // red, green and blue, a byte each
+    std::uint32_t number;      // red, green and blue, a byte each
 };
 
 namespace localColorTable {

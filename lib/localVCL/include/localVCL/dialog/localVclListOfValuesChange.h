@@ -14,8 +14,8 @@ class QWidget;
 // string or a number, a box to tick for a boolean. An object shows its text and is not changed.
 //
 // A field writes into the list what a person has changed in it, and nothing else; in a number a
-// comma becomes a point, and what is no number counts as 0. "OK" and Enter write and accept, "Apply"
-// writes and leaves the dialog open, "Cancel" and Esc reject.
+// comma becomes a point, and what is no number counts as 0. "OK" and Enter write and accept,
+// "Apply" writes and leaves the dialog open, "Cancel" and Esc reject.
 class DemoDialogForListOfValuesChange : public QDialog {
     Q_OBJECT
 

@@ -111,7 +111,8 @@ private:
     void fileNameSet(std::u16string fileName);
     void titleSet(const QString& title);
     void modifiedShow();
-    // The name under which the file is found, also when a program has changed the working directory.
+    // The name under which the file is found, also when a program has changed the working
+    // directory.
     std::u16string fileWritten() const;
     // Whether a text may be saved: the file can hold all of it, or a person agrees to what is lost.
     bool lossAgreed(std::u16string_view written);
@@ -119,7 +120,7 @@ private:
     localVclWidgetEditorLineNumberArea* lineNumberArea_ = nullptr;
     localVclPrgTextHighlighter* highlighter_ = nullptr;
     std::u16string fileName_;
-    std::u16string folder_;  // the working directory when the file got its name
+    std::u16string folder_;                    // the working directory when the file got its name
     std::vector<std::u16string> findHistory_;  // most recent last
     QTextDocument::FindFlags findFlags_;
     // Where the text given had a carriage return that the text on screen has not.

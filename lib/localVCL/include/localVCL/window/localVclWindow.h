@@ -28,7 +28,8 @@ struct localVclWindowParameters {
     QString title;
     bool modal = false;
     QString iconAsBase64;  // the program's own icon when it holds no picture
-    std::optional<QPoint> place = {};  // of the frame's corner on the screen; else the system chooses
+    std::optional<QPoint> place =
+        {};  // of the frame's corner on the screen; else the system chooses
 };
 
 // The parameters in a list: "title" (string), "modal" (number, above 0 means modal), "iconAsBase64"
