@@ -13,9 +13,9 @@
 #include <unistd.h>
 #endif
 
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 

@@ -13,8 +13,8 @@
 
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"

@@ -5,9 +5,9 @@
 
 #include "debug/localDebugCompile.h"
 #include "debug/localDebugVariable.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 

@@ -8,9 +8,9 @@
 #include <QPushButton>
 
 #include "editorTest.h"
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localVCL/editor/localVclPrgTextHighlighter.h"
 #include "localVCL/editor/localVclTextSaveDialog.h"

@@ -9,9 +9,9 @@
 
 #include <memory>
 
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/host/localHost.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/host/localVclHost.h"

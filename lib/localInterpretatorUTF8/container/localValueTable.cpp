@@ -4,9 +4,9 @@
 #include <cmath>
 #include <utility>
 
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 

@@ -5,11 +5,11 @@
 
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
-#include "localInterpretatorUTF8/small/localRandom.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
+#include "localInterpretatorUTF8/text/localRandom.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 std::int64_t localContextUTF8::counterStaticTotal = 0;

@@ -1,7 +1,7 @@
 #include "localInterpretatorUTF8/file/localStd.h"
 
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 
 namespace localStd {
 namespace {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "scanner/localCursor.h"

@@ -4,8 +4,8 @@
 
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/json/localJsonValue.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 

@@ -1,11 +1,11 @@
 #include <unordered_set>
 #include <vector>
 
-#include "localInterpretatorUTF8/class/localClassDeclaration.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/json/localJsonValue.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
+#include "localInterpretatorUTF8/value/localClassDeclaration.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 #include "json/localJsonText.h"
 

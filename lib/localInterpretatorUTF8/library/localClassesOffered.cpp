@@ -2,11 +2,11 @@
 #include <string>
 #include <vector>
 
+#include "localInterpretatorUTF8/classes/localClassForTest.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
-#include "localInterpretatorUTF8/small/localClassForTest.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace localLibrary {

@@ -9,8 +9,8 @@
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
 
 namespace localHandlers {
 namespace {

@@ -2,7 +2,7 @@
 // fit its pattern.
 #pragma once
 
-#include "localInterpretatorUTF8/class/localMethodTable.h"
+#include "localInterpretatorUTF8/value/localMethodTable.h"
 
 namespace localHandlers {
 

@@ -5,9 +5,9 @@
 
 #include "library/localHandlers.h"
 #include "library/localWhole.h"
-#include "localInterpretatorUTF8/small/localRandom.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
+#include "localInterpretatorUTF8/text/localRandom.h"
 
 namespace localHandlers {
 namespace {

@@ -3,10 +3,10 @@
 #include <string>
 
 #include "library/localHandlers.h"
+#include "localInterpretatorUTF8/classes/localDateTime.h"
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
-#include "localInterpretatorUTF8/small/localDateTime.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace localHandlers {

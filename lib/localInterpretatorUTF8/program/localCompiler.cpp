@@ -2,13 +2,13 @@
 #include <string_view>
 #include <utility>
 
-#include "localInterpretatorUTF8/command/localCommand.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localNameTable.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
 #include "scanner/localCursor.h"
 
 namespace {

@@ -1,11 +1,11 @@
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace {

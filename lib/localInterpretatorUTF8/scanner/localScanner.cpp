@@ -5,11 +5,11 @@
 #include <type_traits>
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
 #include "scanner/localCursor.h"
 
 namespace localInterpretatorUTF8 {

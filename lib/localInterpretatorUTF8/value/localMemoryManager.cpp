@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "localInterpretatorUTF8/file/localFile.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localCounters.h"

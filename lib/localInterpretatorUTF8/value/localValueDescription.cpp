@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "localInterpretatorUTF8/class/localClassDeclaration.h"
-#include "localInterpretatorUTF8/text/localHalt.h"
+#include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/value/localClassDeclaration.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 

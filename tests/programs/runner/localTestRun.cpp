@@ -10,10 +10,10 @@
 #include <sstream>
 #include <vector>
 
-#include "localInterpretatorUTF8/command/localCommand.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/value/localCounters.h"

@@ -17,8 +17,8 @@
 #include <atomic>
 #include <string>
 
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
-#include "localInterpretatorUTF8/text/localStackGuard.h"
+#include "localInterpretatorUTF8/thread/localStackGuard.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 
 class localContextUTF8;
 

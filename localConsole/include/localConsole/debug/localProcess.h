@@ -9,7 +9,7 @@
 
 #include <string>
 
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 
 class localContextUTF8;
 class localVclWidgetEditor;

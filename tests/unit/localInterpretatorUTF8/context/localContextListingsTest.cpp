@@ -4,7 +4,7 @@
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localFile.h"
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 #include "support/language.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
-#include "localInterpretatorUTF8/small/localRandom.h"
+#include "localInterpretatorUTF8/text/localRandom.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 #include "support/countedClass.h"
 #include "support/language.h"
 

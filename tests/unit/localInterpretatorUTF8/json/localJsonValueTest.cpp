@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "localInterpretatorUTF8/class/localMethodTable.h"
 #include "localInterpretatorUTF8/json/localJsonReader.h"
+#include "localInterpretatorUTF8/value/localMethodTable.h"
 #include "json/jsonShape.h"
 
 using testing::ElementsAre;

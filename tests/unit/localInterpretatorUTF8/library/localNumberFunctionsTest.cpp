@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "library/libraryCall.h"
-#include "localInterpretatorUTF8/small/localRandom.h"
+#include "localInterpretatorUTF8/text/localRandom.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "localInterpretatorUTF8/class/localMethodTable.h"
+#include "localInterpretatorUTF8/value/localMethodTable.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 class countedObject {

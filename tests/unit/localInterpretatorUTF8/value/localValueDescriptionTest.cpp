@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "localInterpretatorUTF8/small/localClassForTest.h"
+#include "localInterpretatorUTF8/classes/localClassForTest.h"
 #include "support/countedClass.h"
 #include "support/language.h"
 

@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-#include "localInterpretatorUTF8/context/localScopeTable.h"
+#include "localInterpretatorUTF8/text/localScopeTable.h"
 #include "localInterpretatorUTF8/text/localText.h"
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 

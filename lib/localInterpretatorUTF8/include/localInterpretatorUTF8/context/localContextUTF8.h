@@ -16,9 +16,9 @@
 #include <string_view>
 #include <vector>
 
-#include "localInterpretatorUTF8/class/localClassDeclaration.h"
-#include "localInterpretatorUTF8/context/localScopeTable.h"
+#include "localInterpretatorUTF8/text/localScopeTable.h"
 #include "localInterpretatorUTF8/text/localText.h"
+#include "localInterpretatorUTF8/value/localClassDeclaration.h"
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 
 struct localOperatorCompiled;

@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-#include "localInterpretatorUTF8/class/localMethodTable.h"
+#include "localInterpretatorUTF8/value/localMethodTable.h"
 
 namespace localLibrary {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "localInterpretatorUTF8/program/localOperatorCompiled.h"
+#include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 
 // Compiles one block of a program's text from a position, recursively. True when the block ended at
 // a terminator or at the end of the text; `status` then tells which: 0 ELSE, 1 ELSEIF, 2 ENDDO, 3

@@ -1,0 +1,121 @@
+// A class of the language written down as a table: one row a method, with its names in both
+// languages, its argument pattern and the function that does the work.
+//
+// One shared piece of code checks the number and the types of arguments and sets the statuses, so
+// that a handler starts with arguments that are right. Listings, highlighting and the manual read
+// the same rows.
+//
+// An argument pattern has a letter an argument: s string, n number, b boolean, o object, v any
+// value.
+// "|" begins those that may be left out; "+" at the end lets the last one repeat; "?" alone leaves
+// the whole check to the handler.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "localInterpretatorUTF8/host/localHalt.h"
+#include "localInterpretatorUTF8/value/localClassDeclaration.h"
+
+// What a handler is given. The result is a reserved slot holding the number 0; false must leave a
+// status.
+struct localCall {
+    int& status;
+    localContextUTF8* context;  // of the call; null when a value is only asked for its text
+    void* object;               // the native object of the class
+    std::u16string_view name;   // upper case, in either language
+    localArguments args;
+    localValueDescription& result;
+
+    double number(std::size_t i) const { return args[i]->num; }
+    std::u16string_view text(std::size_t i) const { return args[i]->wStr; }
+    bool fail(int code) {
+        status = code;
+        return false;
+    }
+    bool give(double value) {
+        result.setVal(value);
+        return true;
+    }
+    bool give(localText value) {
+        result.setVal(std::move(value));
+        return true;
+    }
+    bool giveBoolean(bool value) {
+        result.setBoolean(value);
+        return true;
+    }
+    // The usual result of a procedure: the number 1.
+    bool done() { return give(1.0); }
+};
+
+using localHandler = bool (*)(localCall& call);
+
+struct localMethodRow {
+    std::u16string_view english;
+    std::u16string_view russian;  // empty where the method has none
+    std::string_view arguments;
+    localHandler handler;
+};
+
+struct localAttributeRow {
+    std::u16string_view name;
+    localAttribGetFunction get;
+    localAttribSetFunction set;
+};
+
+// Checks arguments against a pattern: status 31 for a wrong count, then 33 for a wrong type.
+bool localArgumentsCheck(int& status, std::string_view pattern, localArguments args);
+
+// Converts an argument to an index by truncation toward zero; what no 32-bit index can hold becomes
+// 0, which is out of every range.
+std::uint32_t localIndex(double value);
+
+enum class localMemberNames { both, englishOnly };
+
+struct localClassTable {
+    std::u16string_view nameEng;
+    std::u16string_view nameRus;
+    std::u16string_view description;
+    std::u16string_view nativeName;  // names the class in halts: "localValueList"
+    void* (*construct)();            // a new object with count 0; null where a program makes none
+    void (*destroy)(void* object);
+    localLinkFunction link;
+    std::span<const localMethodRow> methods;
+    std::span<const localAttributeRow> attributes;
+    localMemberNames memberNames = localMemberNames::both;
+    // Whether names without a member reach the method function as well, and where such reads go.
+    bool classWideMethods = false;
+    localAttribGetFunction classWideAttributes = nullptr;
+};
+
+// The method function of every class that is a table: the constructor, "~", then the rows.
+bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration,
+                      const localNameTable<const localMethodRow*>& rows, int& status,
+                      localContextUTF8* context, void*& object, std::u16string_view name,
+                      const localArguments* args, localValueDescription*& result);
+
+localNameTable<const localMethodRow*> localMethodRowIndex(std::span<const localMethodRow> rows);
+
+// Fills a declaration from its table.
+void localDeclareFromTable(localClassDeclaration& declaration, const localClassTable& table,
+                           localMethodFunction method);
+
+// The declaration of a class that is a table. Made on first use, never destroyed.
+template <const localClassTable& table>
+localClassDeclaration* localTableClass() {
+    static localClassDeclaration* const declaration = [] {
+        auto* made = new localClassDeclaration;
+        localDeclareFromTable(
+            *made, table,
+            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+               const localArguments* args, localValueDescription*& result) {
+                static const auto rows = localMethodRowIndex(table.methods);
+                return localTableMethod(table, localTableClass<table>(), rows, status, context,
+                                        object, name, args, result);
+            });
+        return made;
+    }();
+    return declaration;
+}
