@@ -36,7 +36,10 @@ int run(const std::u16string& fileName) {
     }
     int status = localErrorTypeOK;
     if (!textExec(status, text, &context)) {
-        traceLine(statusMessage(status), "run");
+        // A BREAK outside any loop, and a program that fails without a status, have no words.
+        if (status != localErrorTypeBREAK && status != localErrorTypeOK) {
+            traceLine(statusMessage(status), "run");
+        }
         return failed;
     }
     return status == localErrorTypeRESULTNOTONE ? valueOther : valueOne;

@@ -88,6 +88,16 @@ void takeWaitingInput() {
     }
 }
 
+// The context of typed commands: the global one, made here, unless something else has needed that
+// before.
+std::unique_ptr<localContextUTF8> contextOfConsole() {
+    if (localContextUTF8::globalContext != nullptr) {
+        return std::make_unique<localContextUTF8>();
+    }
+    int status = localErrorTypeOK;
+    return localContextUTF8::createGlobal(status);
+}
+
 QPalette greenOnBlack() {
     QPalette palette;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
@@ -101,7 +111,7 @@ QPalette greenOnBlack() {
 
 localConsole::localConsole(QWidget* parent)
     : QPlainTextEdit(parent),
-      context_(std::make_unique<localContextUTF8>()),
+      context_(contextOfConsole()),
       promptNormal_("localInterpretatorUTF8> "),
       paintRate_(std::make_unique<localPaintRate>(this)) {
     promptLength_ = static_cast<int>(promptNormal_.size());

@@ -17,6 +17,7 @@ ENDDO;
 путь = "made-by-program";
 RUN "touch " + путь;
 END
+printf '? 1;\nQUIT ;' >quits.prg
 cat >argument.prg <<'END'
 RUN "touch made-by-argument";
 END
@@ -24,6 +25,8 @@ END
 startDisplay
 # A file named on the command line is not run, and the toolkit gets no words either.
 startKorvo argument.prg -platform nonsense
+grep -q '^localMemoryManager::manager->getReservedCount()= 0$' korvo.out ||
+    fail "the start did not tell the length of the store: $(cat korvo.out)"
 
 enter '? 2+3*4'
 enter 'имя = "Корво Ёё"'
@@ -34,6 +37,10 @@ expectFile name.txt 'Корво Ёё'
 enter 'DO "file.prg"'
 expectFile made-by-program ''
 enter '? путь'
+# A program's text with QUIT does not compile; the console stays, with its variables.
+enter 'DO "quits.prg"'
+enter 'RUN "touch stays-" + путь'
+expectFile stays-made-by-program ''
 enter 'q'
 typeText 'half a command, пол'
 waitForRest

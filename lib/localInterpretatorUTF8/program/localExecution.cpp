@@ -149,9 +149,8 @@ bool print(const Run& run) {
 
 bool returnValue(const Run& run) {
     if (!run.evaluate(run.node.statement)) {
-        traceLine(u"localCompiledOperatorTypeRENURN with expression [" +
-                      std::u16string(run.node.expression()) + u"]",
-                  "execute");
+        placeLine(u"localCompiledOperatorTypeRENURN with expression [" +
+                  std::u16string(run.node.expression()) + u"]");
         traceLine(u"ERROR!!!", "execute");
         return false;
     }

@@ -20,19 +20,24 @@ void write(std::u16string_view text, std::string_view end) {
     std::cout.flush();
 }
 
-}  // namespace
-
-std::string traceTail(std::string_view function, std::source_location place) {
+std::string tracePlace(std::source_location place) {
     std::string_view file = place.file_name();
     if (const auto slash = file.find_last_of("/\\"); slash != std::string_view::npos) {
         file.remove_prefix(slash + 1);
     }
-    std::string tail = " func: ";
-    tail += function;
-    tail += " file: ";
+    std::string tail = " file: ";
     tail += file;
     tail += " line: ";
     tail += std::to_string(place.line());
+    return tail;
+}
+
+}  // namespace
+
+std::string traceTail(std::string_view function, std::source_location place) {
+    std::string tail = " func: ";
+    tail += function;
+    tail += tracePlace(place);
     return tail;
 }
 
@@ -42,4 +47,8 @@ void writeLine(std::u16string_view text) {
 
 void traceLine(std::u16string_view text, std::string_view function, std::source_location place) {
     write(text, traceTail(function, place) + '\n');
+}
+
+void placeLine(std::u16string_view text, std::source_location place) {
+    write(text, tracePlace(place) + '\n');
 }

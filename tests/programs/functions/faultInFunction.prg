@@ -1,7 +1,7 @@
 FUNCTION f(x) RETURN 1/x; ENDFUNCTION;
 ? f(2);                 // expect: 0.5
 ? f(0);                 // expect status: 21
-// expect: localCompiledOperatorTypeRENURN with expression [(1/x)]
+// expect match: localCompiledOperatorTypeRENURN with expression [(1/x)] file: localExecution.cpp line: *
 // expect: ERROR!!!
 // expect:
 // expect: >> f() in );

@@ -1,4 +1,4 @@
 RETURN nobody;          // expect status: 10
-// expect: localCompiledOperatorTypeRENURN with expression [(nobody)]
+// expect match: localCompiledOperatorTypeRENURN with expression [(nobody)] file: localExecution.cpp line: *
 // expect: ERROR!!!
 // expect: Неверный атрибут.

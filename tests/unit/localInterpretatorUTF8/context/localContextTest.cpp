@@ -176,9 +176,9 @@ TEST(localContextStart, createGlobalTellsTheLengthOfTheStore) {
     EXPECT_IN_FRESH_PROCESS({
         const capturedOutput output;
         int status = localErrorTypeSYNTAX;
-        localContextUTF8::createGlobal(status);
+        const auto global = localContextUTF8::createGlobal(status);
         EXPECT_EQ(status, 54);
-        EXPECT_NE(localContextUTF8::globalContext, nullptr);
+        EXPECT_EQ(localContextUTF8::globalContext, global.get());
         EXPECT_EQ(output.text(),
                   "localMemoryManager::manager->getReservedCount()= " +
                       std::to_string(localMemoryManager::manager->getReservedCount()) + "\n");

@@ -38,10 +38,13 @@ TEST_F(numberFunctionsTest, intOfWhatIsNoNumberOf32BitsIsTheLowestOne) {
     EXPECT_FALSE(std::signbit(call(u"INT", -0.5).result->num));
 }
 
-TEST_F(numberFunctionsTest, anyDigitsGiveANumber) {
-    EXPECT_EQ(call(u"ROUND", 1.5, infinite).result->num, 1.5);
-    EXPECT_EQ(call(u"ROUND", 1.5, -infinite).result->num, 0.0);
-    EXPECT_EQ(call(u"ROUND", 15.0, 1e300).result->num, 15.0);
+TEST_F(numberFunctionsTest, roundingFollowsItsFormulaForAnyDigits) {
+    EXPECT_TRUE(std::isnan(call(u"ROUND", 1.5, infinite).result->num));
+    EXPECT_TRUE(std::isnan(call(u"ROUND", 1.5, -infinite).result->num));
+    EXPECT_TRUE(std::isnan(call(u"ROUND", 15.0, 1e300).result->num));
+    EXPECT_EQ(call(u"ROUND", 1e300, 100.0).result->num, infinite);
+    EXPECT_EQ(call(u"ROUND", 2.34567, 1.5).result->num,
+              std::round(2.34567 * std::pow(10.0, 1.5)) / std::pow(10.0, 1.5));
     EXPECT_TRUE(std::isnan(call(u"ROUND", notANumber, 2.0).result->num));
     EXPECT_EQ(call(u"ROUND", infinite, 2.0).result->num, infinite);
 }

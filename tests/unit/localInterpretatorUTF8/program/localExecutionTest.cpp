@@ -63,6 +63,9 @@ TEST_F(executionTest, aProgramThatFailsLeavesItsStatus) {
         std::vector<std::string> lines;
     };
     const std::string divided = "Деление на 0!";
+    // The one line that names its file and no function.
+    const std::string returned =
+        "localCompiledOperatorTypeRENURN with expression [(1/0)] file: localExecution.cpp line:";
     const Row rows[] = {
         {"x = 1/0;", 21, {"", ">> X=1/0; ", "ERROR!!! " + divided, divided}},
         {"o.fail();",
@@ -73,9 +76,7 @@ TEST_F(executionTest, aProgramThatFailsLeavesItsStatus) {
          21,
          {"1/0", "ERROR!!! " + divided + " in  expression.", "Expression below: 1/0 in  expression",
           divided}},
-        {"RETURN 1/0;",
-         21,
-         {"localCompiledOperatorTypeRENURN with expression [(1/0)]", "ERROR!!!", divided}},
+        {"RETURN 1/0;", 21, {returned, "ERROR!!!", divided}},
         {"WHILE 1/0 DO ENDDO;", 21, {"ERROR!!!", divided}},
         {"IF 1/0 THEN ENDIF;", 21, {"", ">> = 1/0; ", "ERROR!!! " + divided, divided}},
         {"IF 0 THEN ELSEIF 1/0 THEN ENDIF;",
@@ -94,9 +95,12 @@ TEST_F(executionTest, aProgramThatFailsLeavesItsStatus) {
           "Команда BREAK (ПРЕРВАТЬ) встретилась вне цикла."}},
     };
     for (const Row& row : rows) {
-        const ran got = run(row.text);
+        ran got = run(row.text);
         EXPECT_FALSE(got.done) << row.text;
         EXPECT_EQ(got.status, row.status) << row.text;
+        if (!got.lines.empty() && got.lines.front().starts_with(returned)) {
+            got.lines.front().resize(got.lines.front().find_last_of(' '));
+        }
         EXPECT_EQ(got.lines, row.lines) << row.text;
         context.varRemoveAll();
         context.varDeclare(u"o").value->objectBind(new countedObject, countedClass());

@@ -148,8 +148,7 @@ public:
 inline localContextUTF8& createdGlobal() {
     const capturedOutput unseen;
     int status = localErrorTypeOK;
-    localContextUTF8::createGlobal(status);
-    return *localContextUTF8::globalContext;
+    return *localContextUTF8::createGlobal(status).release();  // lives to the end of the process
 }
 
 // What evaluating an expression gave.

@@ -57,8 +57,9 @@ public:
     localContextUTF8(const localContextUTF8&) = delete;
     localContextUTF8& operator=(const localContextUTF8&) = delete;
 
-    // Makes the global context. Halts when it stands already.
-    static void createGlobal(int& status);
+    // Makes the global context, which the caller owns, and tells the length of the slot store.
+    // Halts when it stands already.
+    static std::unique_ptr<localContextUTF8> createGlobal(int& status);
     // Sets a context to its first state, seeding the random generator again; the global one gets
     // the library's functions and the classes that are there from the start.
     bool init(int& status);

@@ -20,3 +20,7 @@ void writeLine(std::u16string_view text = {});
 // One line: the text and the tail of the calling place.
 void traceLine(std::u16string_view text, std::string_view function,
                std::source_location place = std::source_location::current());
+
+// As traceLine, for the one kind of line that names no function: " file: X line: N" ends it.
+void placeLine(std::u16string_view text,
+               std::source_location place = std::source_location::current());

@@ -1,0 +1,3 @@
+? "before";
+DO "data/quit.prg" ;
+? "behind";
