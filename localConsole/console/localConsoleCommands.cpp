@@ -259,8 +259,9 @@ void localConsole::commandHelpAsPrg() {
     constexpr const char16_t* manual = u"testHelpLocalInterpretatorUtf8.prg";
     const std::u16string folder = localStd::fileSearch(manual);
     if (folder.empty()) {
-        localHost::current().messageBox(localHost::MessageKind::warning, u"Help",
-                                        u"Файл " + std::u16string(manual) + u" не найден!");
+        localHost::current().report({.kind = localReport::Kind::warning,
+                                     .title = u"Help",
+                                     .text = u"Файл " + std::u16string(manual) + u" не найден!"});
         return;
     }
     // Quoted, since a folder's name may hold blanks.

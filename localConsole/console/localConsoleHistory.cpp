@@ -55,9 +55,9 @@ void append(const QString& fileName, QByteArray line) {
 localConsoleHistory::localConsoleHistory() {
     const std::u16string folder = localStd::fileSearch(historyFileName);
     if (folder.empty()) {
-        localHost::current().messageBox(localHost::MessageKind::warning, u"",
-                                        u"Файл " + std::u16string(historyFileName) +
-                                            u" не найден!");
+        localHost::current().report(
+            {.kind = localReport::Kind::warning,
+             .text = u"Файл " + std::u16string(historyFileName) + u" не найден!"});
     }
     fileName_ = localVclQString(localStd::pathJoin(
         folder.empty() ? localPlatform::workingDirectory() : folder, historyFileName));

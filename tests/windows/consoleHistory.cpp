@@ -55,21 +55,22 @@ private slots:
 
     void withoutAFileABoxTellsAndTheFirstCommandMakesOne() {
         start();
-        QCOMPARE(host_.boxes, QStringList({"|Файл console_history.log не найден!"}));
-        QCOMPARE(host_.kinds, std::vector{localHost::MessageKind::warning});
+        const std::vector<std::string> wanted = {
+            "warning [] [Файл console_history.log не найден!]"};
+        QCOMPARE(host_.calls, wanted);
         QVERIFY(!QFile::exists(historyName));
         QCOMPARE(history(), QStringList());
         enter("? \"первая\"");
         QCOMPARE(read(historyName), QByteArray("? \"первая\"\n"));
         start();
-        QCOMPARE(host_.boxes.size(), 1);
+        QCOMPARE(host_.calls.size(), std::size_t(1));
         QCOMPARE(history(), QStringList({"? \"первая\""}));
     }
 
     void fileIsReadAndGrows() {
         write(historyName, "? 1\n? \"Ёж\"\n");
         start();
-        QVERIFY(host_.boxes.isEmpty());
+        QVERIFY(host_.calls.empty());
         QCOMPARE(history(), QStringList({"? 1", "? \"Ёж\""}));
         key(Qt::Key_Down);
         key(Qt::Key_Down);
@@ -161,7 +162,7 @@ private slots:
         QVERIFY(QDir().mkdir("prgTest"));
         write("prgTest/" + historyName, "? 1\n");
         start();
-        QVERIFY(host_.boxes.isEmpty());
+        QVERIFY(host_.calls.empty());
         enter("? 2");
         QCOMPARE(read("prgTest/" + historyName), QByteArray("? 1\n? 2\n"));
         QVERIFY(!QFile::exists(historyName));

@@ -2,6 +2,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
@@ -41,33 +43,138 @@ private:
     }
 
 private slots:
-    void messageBox_data() {
-        QTest::addColumn<bool>("critical");
-        QTest::newRow("information") << false;
-        QTest::newRow("critical") << true;
+    void report_data() {
+        QTest::addColumn<localReport::Kind>("kind");
+        QTest::addColumn<localReport::Form>("form");
+        QTest::addColumn<int>("icon");
+        using Kind = localReport::Kind;
+        using Form = localReport::Form;
+        QTest::newRow("about") << Kind::about << Form::plain << int(QMessageBox::NoIcon);
+        QTest::newRow("information")
+            << Kind::information << Form::plain << int(QMessageBox::Information);
+        QTest::newRow("warning") << Kind::warning << Form::html << int(QMessageBox::Warning);
+        QTest::newRow("critical") << Kind::critical << Form::plain << int(QMessageBox::Critical);
+        QTest::newRow("question") << Kind::question << Form::html << int(QMessageBox::Question);
     }
-    void messageBox() {
-        QFETCH(bool, critical);
-        QString title, text;
-        auto icon = QMessageBox::NoIcon;
-        qsizetype buttons = 0;
+    void report() {
+        QFETCH(localReport::Kind, kind);
+        QFETCH(localReport::Form, form);
+        bool seen = false;
         whenModal([&](QWidget* window) {
             auto* const box = qobject_cast<QMessageBox*>(window);
-            title = box->windowTitle();
-            text = box->text();
-            icon = box->icon();
-            buttons = box->buttons().size();
-            QVERIFY(box->textFormat() == Qt::PlainText);
-            QVERIFY(saveScreenshot(*box, critical ? "messageCritical" : "messageInformation"));
+            QCOMPARE(box->windowTitle(), QString("Запись"));
+            QCOMPARE(box->text(), QString("Файл <b>не</b> записан"));
+            QTEST(int(box->icon()), "icon");
+            QCOMPARE(box->iconPixmap().isNull(), false);
+            QCOMPARE(box->buttons().size(), qsizetype(1));
+            QCOMPARE(box->textFormat(),
+                     form == localReport::Form::html ? Qt::RichText : Qt::PlainText);
+            QVERIFY(saveScreenshot(*box, QString("report_") + QTest::currentDataTag()));
+            seen = true;
             QTest::keyClick(box, Qt::Key_Return);
         });
-        host_.messageBox(critical ? localHost::MessageKind::critical
-                                  : localHost::MessageKind::information,
-                         u"Запись", u"Файл <b>не</b> записан");
-        QCOMPARE(title, QString("Запись"));
-        QCOMPARE(text, QString("Файл <b>не</b> записан"));
-        QCOMPARE(icon, critical ? QMessageBox::Critical : QMessageBox::Information);
-        QCOMPARE(buttons, qsizetype(1));
+        const auto pressed = host_.report(
+            {.kind = kind, .title = u"Запись", .text = u"Файл <b>не</b> записан", .form = form});
+        QVERIFY(pressed == localReport::Button::ok);
+        QVERIFY(seen);
+    }
+
+    void reportTellsTheButton_data() {
+        using Button = localReport::Button;
+        QTest::addColumn<std::vector<Button>>("buttons");
+        QTest::addColumn<Button>("first");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Button>("pressed");
+        const std::vector<Button> sure = {Button::ok, Button::cancel};
+        const std::vector<Button> close = {Button::yes, Button::no};
+        const auto row = [](const char* name, const std::vector<Button>& buttons, Button first,
+                            int key, Button pressed) {
+            QTest::newRow(name) << buttons << first << key << pressed;
+        };
+        row("the default", sure, Button::cancel, Qt::Key_Return, Button::cancel);
+        row("another default", sure, Button::ok, Qt::Key_Return, Button::ok);
+        row("escape", sure, Button::ok, Qt::Key_Escape, Button::cancel);
+        row("yes", close, Button::yes, Qt::Key_Return, Button::yes);
+        row("no", close, Button::no, Qt::Key_Return, Button::no);
+    }
+    void reportTellsTheButton() {
+        QFETCH(std::vector<localReport::Button>, buttons);
+        QFETCH(localReport::Button, first);
+        QFETCH(int, key);
+        QFETCH(localReport::Button, pressed);
+        whenModal([&](QWidget* window) {
+            QCOMPARE(qobject_cast<QMessageBox*>(window)->buttons().size(), qsizetype(2));
+            QTest::keyClick(window->focusWidget(), static_cast<Qt::Key>(key));
+        });
+        const auto answer = host_.report({.kind = localReport::Kind::question,
+                                          .title = u"question",
+                                          .text = u"Are you sure? ",
+                                          .buttons = buttons,
+                                          .defaultButton = first});
+        QVERIFY(answer == pressed);
+    }
+
+    void reportShowsTheArrow() {
+        host_.setCursor(localHost::Cursor::wait);
+        auto shape = Qt::WaitCursor;
+        whenModal([&](QWidget* window) {
+            shape = QApplication::overrideCursor()->shape();
+            QTest::keyClick(window, Qt::Key_Return);
+        });
+        host_.report({.text = u"text"});
+        QCOMPARE(shape, Qt::ArrowCursor);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        host_.setCursor(localHost::Cursor::restored);
+    }
+
+    void longMessagesAreCutReportsAreNot() {
+        const std::u16string longText(511, u'x');
+        QString shown, details;
+        const auto look = [&](QWidget* window) {
+            auto* const box = qobject_cast<QMessageBox*>(window);
+            shown = box->text();
+            details = box->detailedText();
+            QTest::keyClick(box, Qt::Key_Return);
+        };
+        whenModal(look);
+        QVERIFY(host_.showMessage({.text = longText}));
+        QCOMPARE(shown, QString(507, 'x') + "...");
+        QCOMPARE(details, QString(511, 'x'));
+        whenModal(look);
+        host_.report({.text = longText});
+        QCOMPARE(shown, QString(511, 'x'));
+        QCOMPARE(details, QString());
+    }
+
+    void chooseFile_data() {
+        QTest::addColumn<bool>("chosen");
+        QTest::newRow("chosen") << true;
+        QTest::newRow("rejected") << false;
+    }
+    void chooseFile() {
+        QFETCH(bool, chosen);
+        QVERIFY(QDir().mkpath("data"));
+        QFile file("data/goods.sqlite");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QString title, folder;
+        QStringList filters;
+        whenModal([&](QWidget* window) {
+            auto* const dialog = qobject_cast<QFileDialog*>(window);
+            title = dialog->windowTitle();
+            folder = dialog->directory().dirName();
+            filters = dialog->nameFilters();
+            auto* const name = dialog->findChild<QLineEdit*>();
+            name->setText("goods.sqlite");
+            QTest::keyClick(name, chosen ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        const std::u16string name = host_.chooseFile(u"Open file database ", u"data",
+                                                     {u"*.sqlite *.sqlite", u"Тексты (*.txt)"});
+        QCOMPARE(QString::fromStdU16String(name),
+                 chosen ? QDir::current().filePath("data/goods.sqlite") : QString());
+        QCOMPARE(title, QString("Open file database "));
+        QCOMPARE(folder, QString("data"));
+        QCOMPARE(filters, QStringList({"*.sqlite *.sqlite", "Тексты (*.txt)"}));
     }
 
     void haltBox() {
@@ -85,7 +192,7 @@ private slots:
     void boxOfAnotherThreadIsShownHere() {
         bool answered = false;
         const std::unique_ptr<QThread> program(QThread::create([&] {
-            host_.messageBox(localHost::MessageKind::information, u"title", u"text");
+            host_.report({.title = u"title", .text = u"text"});
             answered = true;
         }));
         QThread* shownOn = nullptr;

@@ -166,10 +166,12 @@ void editorFiles::saveFails() {
         QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
         QCOMPARE(text(edit), QString("xtext"));
         QVERIFY(edit.document()->isModified());
-        QCOMPARE(host.boxes.size(), name.empty() ? 0 : 1);
+        QCOMPARE(int(host.reports.size()), name.empty() ? 0 : 1);
         if (!name.empty()) {
-            QCOMPARE(host.kinds[0], localHost::MessageKind::critical);
-            QVERIFY(host.boxes[0].startsWith("save|Ошибка записи файла [no/such/folder/a.prg]\n"));
+            const localReport& box = host.reports[0];
+            QVERIFY(box.kind == localReport::Kind::critical);
+            QVERIFY(box.title == u"save");
+            QVERIFY(box.text.starts_with(u"Ошибка записи файла [no/such/folder/a.prg]\n"));
         }
     }
 }
@@ -181,7 +183,7 @@ void editorFiles::saveToAFullDisk() {
     outputCapture output;
     QTest::keyClick(&edit, Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
-    QCOMPARE(host.boxes.size(), 1);
+    QCOMPARE(int(host.reports.size()), 1);
     QCOMPARE(text(edit), QString("xtext"));
     QCOMPARE(shownTitle(edit), QString("/dev/full*"));
     QVERIFY(!edit.windowMayClose());
@@ -392,7 +394,7 @@ void editorFiles::saveAsFails() {
     });
     QVERIFY(!edit.saveAsSlot());
     QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
-    QCOMPARE(host.boxes.size(), 1);
+    QCOMPARE(int(host.reports.size()), 1);
     QCOMPARE(edit.fileName(), std::u16string(u"first.prg"));
     QCOMPARE(text(edit), QString("text"));
 }
@@ -529,7 +531,7 @@ void editorFiles::closeAndSaveFails() {
     outputCapture output;
     QVERIFY(!edit->window()->close());
     QCOMPARE(output.text(), QString("Файл не сохранён!\n"));
-    QCOMPARE(host.boxes.size(), 1);
+    QCOMPARE(int(host.reports.size()), 1);
     QVERIFY(edit->window()->isVisible());
 }
 

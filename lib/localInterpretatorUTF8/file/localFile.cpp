@@ -121,9 +121,10 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::
     if (!written) {
         localHost& host = localHost::current();
         host.setCursor(localHost::Cursor::arrow);
-        host.messageBox(localHost::MessageKind::critical, u"save",
-                        u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
-                            localString::fromUtf8(traceTail("fileWrite")));
+        host.report({.kind = localReport::Kind::critical,
+                     .title = u"save",
+                     .text = u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
+                             localString::fromUtf8(traceTail("fileWrite"))});
         host.setCursor(localHost::Cursor::restored);
     }
     return written;

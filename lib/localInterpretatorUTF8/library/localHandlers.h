@@ -74,6 +74,11 @@ bool classLoaded(localCall& call);
 bool contextGet(localCall& call);
 bool createObject(localCall& call);
 
+// Dialogs.
+bool dateChooseAsString(localCall& call);
+bool messageBox(localCall& call);
+bool stringShow(localCall& call);
+
 // Display.
 bool classDisplay(localCall& call);
 bool classesDisplay(localCall& call);

@@ -1,35 +1,102 @@
 #include "localVCL/host/localVclHost.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
 
+#include "dialog/localVclArrowCursor.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localVCL/dialog/localCalendar.h"
 #include "localVCL/dialog/localVclListDialog.h"
+#include "localVCL/dialog/localVclMessage.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
+#include "localVCL/font/localVclFont.h"
+#include "localVCL/picture/localVclPicture.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localVclOnWindowThread.h"
+#include "window/localVclLookAt.h"
 
 namespace {
 
-void showBox(QMessageBox::Icon icon, std::u16string_view title, std::u16string_view text) {
-    if (qApp == nullptr) {
-        return;
+// In pixels.
+constexpr QSize textWindowSize{640, 400};
+constexpr int aboutPictureSize = 64;
+
+// A box of the kind "about" has a picture and no icon.
+QMessageBox::Icon iconOf(localReport::Kind kind) {
+    switch (kind) {
+        case localReport::Kind::about:
+            return QMessageBox::NoIcon;
+        case localReport::Kind::information:
+            return QMessageBox::Information;
+        case localReport::Kind::warning:
+            return QMessageBox::Warning;
+        case localReport::Kind::critical:
+            return QMessageBox::Critical;
+        case localReport::Kind::question:
+            return QMessageBox::Question;
     }
-    localVclOnWindowThread([=] {
-        QMessageBox box(icon, localVclQString(title), localVclQString(text), QMessageBox::Ok,
-                        QApplication::activeWindow());
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
-    });
+    return QMessageBox::NoIcon;
+}
+
+struct ButtonPair {
+    localReport::Button ours;
+    QMessageBox::StandardButton shown;
+};
+constexpr ButtonPair buttonPairs[] = {
+    {localReport::Button::ok, QMessageBox::Ok},
+    {localReport::Button::cancel, QMessageBox::Cancel},
+    {localReport::Button::yes, QMessageBox::Yes},
+    {localReport::Button::no, QMessageBox::No},
+};
+
+QMessageBox::StandardButton shownButton(localReport::Button button) {
+    for (const ButtonPair& pair : buttonPairs) {
+        if (pair.ours == button) {
+            return pair.shown;
+        }
+    }
+    return QMessageBox::NoButton;
+}
+
+localReport::Button pressedButton(int shown, localReport::Button otherwise) {
+    for (const ButtonPair& pair : buttonPairs) {
+        if (pair.shown == shown) {
+            return pair.ours;
+        }
+    }
+    return otherwise;
+}
+
+// On the windows' thread only.
+localReport::Button runBox(const localReport& report) {
+    const localVclArrowCursor arrow;
+    QMessageBox box(iconOf(report.kind), localVclQString(report.title),
+                    localVclQString(report.text), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setTextFormat(report.form == localReport::Form::html ? Qt::RichText : Qt::PlainText);
+    if (report.kind == localReport::Kind::about) {
+        box.setIconPixmap(localVclProgramIcon().pixmap(aboutPictureSize));
+    }
+    for (const localReport::Button button : report.buttons) {
+        box.addButton(shownButton(button));
+    }
+    box.setDefaultButton(shownButton(report.defaultButton));
+    return pressedButton(box.exec(), report.defaultButton);
 }
 
 }  // namespace
 
+bool localVclHost::hasScreen() const {
+    return qApp != nullptr;
+}
+
 void localVclHost::setCursor(Cursor cursor) {
-    if (qApp == nullptr) {
+    if (!hasScreen()) {
         return;
     }
     localVclOnWindowThread([=] {
@@ -47,25 +114,41 @@ void localVclHost::setCursor(Cursor cursor) {
     });
 }
 
-void localVclHost::messageBox(MessageKind kind, std::u16string_view title,
-                              std::u16string_view text) {
-    const QMessageBox::Icon icons[] = {QMessageBox::Information, QMessageBox::Warning,
-                                       QMessageBox::Critical};
-    showBox(icons[static_cast<std::size_t>(kind)], title, text);
+localReport::Button localVclHost::report(const localReport& report) {
+    if (!hasScreen()) {
+        return localHost::report(report);
+    }
+    localReport::Button pressed = report.defaultButton;
+    localVclOnWindowThread([&] { pressed = runBox(report); });
+    return pressed;
+}
+
+bool localVclHost::showMessage(const localReport& message) {
+    if (!hasScreen()) {
+        return false;
+    }
+    localVclOnWindowThread([&] {
+        localVclMessageShow(localVclQString(message.text), localVclQString(message.title), 0,
+                            iconOf(message.kind));
+    });
+    return true;
 }
 
 void localVclHost::haltBox(std::u16string_view title, std::u16string_view text) {
-    showBox(QMessageBox::Critical, title, text);
-}
-
-bool localVclHost::showList(std::u16string_view title, const std::vector<std::u16string>& lines) {
-    return chooseRow(title, lines, 0).has_value();
+    if (!hasScreen()) {
+        return;
+    }
+    localVclOnWindowThread([&] {
+        runBox({.kind = localReport::Kind::critical,
+                .title = std::u16string(title),
+                .text = std::u16string(text)});
+    });
 }
 
 std::optional<std::size_t> localVclHost::chooseRow(std::u16string_view title,
                                                    const std::vector<std::u16string>& lines,
                                                    std::size_t startRow) {
-    if (qApp == nullptr) {
+    if (!hasScreen()) {
         return std::nullopt;
     }
     QStringList texts;
@@ -83,6 +166,70 @@ std::optional<std::size_t> localVclHost::chooseRow(std::u16string_view title,
     return chosen;
 }
 
+std::optional<std::u16string> localVclHost::chooseDate(std::u16string_view start) {
+    if (!hasScreen()) {
+        return std::nullopt;
+    }
+    std::u16string chosen;
+    localVclOnWindowThread([&] {
+        const localVclArrowCursor arrow;
+        localCalendar calendar(localCalendar::dateOf(localVclQString(start)),
+                               QApplication::activeWindow());
+        if (calendar.exec() == QDialog::Accepted) {
+            chosen = localVclText(calendar.selectedDate());
+        }
+    });
+    return chosen;
+}
+
+std::u16string localVclHost::chooseFile(std::u16string_view title, std::u16string_view folder,
+                                        const std::vector<std::u16string>& filters) {
+    if (!hasScreen()) {
+        return {};
+    }
+    QStringList shown;
+    for (const std::u16string& filter : filters) {
+        shown.append(localVclQString(filter));
+    }
+    std::u16string chosen;
+    localVclOnWindowThread([&] {
+        const localVclArrowCursor arrow;
+        chosen =
+            QFileDialog::getOpenFileName(QApplication::activeWindow(), localVclQString(title),
+                                         localVclQString(folder), shown.join(QStringLiteral(";;")))
+                .toStdU16String();
+    });
+    return chosen;
+}
+
+bool localVclHost::showText(std::u16string_view title, std::u16string_view text) {
+    if (!hasScreen()) {
+        return false;
+    }
+    localVclOnWindowThread([&] {
+        auto* const shown = new QPlainTextEdit(localVclQString(text));
+        shown->setReadOnly(true);
+        shown->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        shown->setFont(localVclFont(3));
+        shown->resize(textWindowSize);
+        localVclLookAt(shown, localVclQString(title));
+    });
+    return true;
+}
+
+bool localVclHost::showList(std::u16string_view title, const std::vector<std::u16string>& lines) {
+    return chooseRow(title, lines, 0).has_value();
+}
+
+bool localVclHost::openEditor(std::u16string_view fileName,
+                              localString::possibleCodePage codePage) {
+    if (!hasScreen()) {
+        return false;
+    }
+    localVclOnWindowThread([&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
+    return true;
+}
+
 bool localVclHost::openOutsideEditor(std::u16string_view fileName) {
     const QString opener = QStandardPaths::findExecutable("xdg-open");
     if (opener.isEmpty() || !qEnvironmentVariableIsEmpty("VISUAL")) {
@@ -90,13 +237,4 @@ bool localVclHost::openOutsideEditor(std::u16string_view fileName) {
     }
     return QProcess::startDetached(opener,
                                    {localVclQString(localPlatform::normalizedPath(fileName))});
-}
-
-bool localVclHost::openEditor(std::u16string_view fileName,
-                              localString::possibleCodePage codePage) {
-    if (qApp == nullptr) {
-        return false;
-    }
-    localVclOnWindowThread([&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
-    return true;
 }

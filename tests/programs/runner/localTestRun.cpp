@@ -18,7 +18,7 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/value/localCounters.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
-#include "localRecordingHost.h"
+#include "localProgramHost.h"
 #include "localTestFile.h"
 
 namespace {
@@ -180,13 +180,11 @@ std::string readAll(int descriptor) {
     ::alarm(longestRunSeconds);
     // The log lies where the process was started; its folder is this copy.
     localStd::startDirectory();
-    localRecordingHost host([reportTo, &name](const std::string& message) {
+    localProgramHost host([reportTo, &name](const std::string& message) {
         writeAll(reportTo, name + ": halted: " + message + '\n');
     });
-    localHost::install(&host);
     writeAll(reportTo, runAll(file, name, test));
     ::close(reportTo);
-    localHost::install(nullptr);
     std::exit(0);
 }
 

@@ -22,6 +22,7 @@
 #include "localVCL/library/localVclLibrary.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localMainWindow.h"
+#include "support/recordingHost.h"
 #include "testFiles.h"
 
 namespace consoleTest {
@@ -29,22 +30,10 @@ namespace consoleTest {
 inline const QString prompt = "localInterpretatorUTF8> ";
 
 // The program's own host, but boxes and the listing of a folder are recorded and not shown.
-class recordingHost : public localVclHost {
+class recordingHost : public boxRecordingHost<localVclHost> {
 public:
-    void messageBox(MessageKind kind, std::u16string_view title,
-                    std::u16string_view text) override {
-        kinds.push_back(kind);
-        boxes.append(localVclQString(title) + "|" + localVclQString(text));
-    }
     // The process ends behind this, with its lines in a console that nobody sees.
-    void haltBox(std::u16string_view title, std::u16string_view text) override {
-        std::cerr << localString::toUtf8(title) << ' ' << localString::toUtf8(text) << std::endl;
-    }
-    void showDirectory() override { ++directories; }
-
-    QStringList boxes;
-    std::vector<MessageKind> kinds;
-    int directories = 0;
+    void atHalt(std::u16string_view) override { std::cerr << calls.back() << std::endl; }
 };
 
 using testFiles::read;
@@ -141,9 +130,8 @@ private slots:
 protected slots:
     void init() {
         localHost::install(&host_);
-        host_.boxes.clear();
-        host_.kinds.clear();
-        host_.directories = 0;
+        host_.calls.clear();
+        host_.reports.clear();
         QDir(folder_.path()).removeRecursively();
         QVERIFY(QDir().mkpath(folder_.path()));
         QVERIFY(QDir::setCurrent(folder_.path()));

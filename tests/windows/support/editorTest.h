@@ -1,5 +1,4 @@
-// What the tests of the editor share: a captured output stream, a host that records, answers to
-// dialogs.
+// What the tests of the editor share: a captured output stream, answers to dialogs.
 #pragma once
 
 #include <QtTest>
@@ -10,30 +9,14 @@
 #include <clocale>
 #include <functional>
 
-#include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
 #include "localVCL/window/localMainWindow.h"
+#include "support/recordingHost.h"
 #include "testFiles.h"
 #include "windowTest.h"
 
 namespace editorTest {
-
-// A host that records boxes.
-class recordingHost : public localHost {
-public:
-    recordingHost() { install(this); }
-    ~recordingHost() override { install(nullptr); }
-    void setCursor(Cursor) override {}
-    void messageBox(MessageKind kind, std::u16string_view title,
-                    std::u16string_view text) override {
-        kinds.push_back(kind);
-        boxes.append(QString::fromUtf16(title.data(), qsizetype(title.size())) + "|" +
-                     QString::fromUtf16(text.data(), qsizetype(text.size())));
-    }
-    QStringList boxes;
-    std::vector<MessageKind> kinds;
-};
 
 // Answers the next modal dialog, which must be of that kind.
 template <typename Dialog>

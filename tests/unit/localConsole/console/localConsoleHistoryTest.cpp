@@ -7,20 +7,11 @@
 #include <optional>
 
 #include "localConsole/console/localConsoleHistory.h"
-#include "localInterpretatorUTF8/host/localHost.h"
+#include "support/recordingHost.h"
 
 namespace {
 
 const QString fileName = "console_history.log";
-
-class boxCounter : public localHost {
-public:
-    boxCounter() { install(this); }
-    ~boxCounter() override { install(nullptr); }
-    void messageBox(MessageKind, std::u16string_view, std::u16string_view) override { ++boxes; }
-
-    int boxes = 0;
-};
 
 class consoleHistoryList : public testing::Test {
 protected:
@@ -37,14 +28,14 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(no file)";
     }
 
-    boxCounter host;
+    recordingHost host;
 };
 
 using line = std::optional<QString>;
 
 TEST_F(consoleHistoryList, aMissingFileIsToldAndMadeByTheFirstCommand) {
     localConsoleHistory history;
-    EXPECT_EQ(host.boxes, 1);
+    EXPECT_EQ(host.reports.size(), 1U);
     EXPECT_EQ(bytes(), "(no file)");
     EXPECT_EQ(history.back(), line());
     EXPECT_EQ(history.forward(), line());
@@ -55,7 +46,7 @@ TEST_F(consoleHistoryList, aMissingFileIsToldAndMadeByTheFirstCommand) {
 TEST_F(consoleHistoryList, anEmptyFileIsNoMissingOne) {
     write("");
     EXPECT_TRUE(localConsoleHistory().lines().isEmpty());
-    EXPECT_EQ(host.boxes, 0);
+    EXPECT_TRUE(host.reports.empty());
 }
 
 TEST_F(consoleHistoryList, blankLinesAreNoLines) {

@@ -11,10 +11,11 @@ class localValueListClassTest : public containerTest {
 protected:
     localValueListClassTest() {
         cell.objectBind(new localValueList, localValueList::classDeclaration());
+        dialogs.screen = true;
     }
     localValueList& list() { return *localValueList::of(cell); }
 
-    choosingHost dialogs;
+    recordingHost dialogs;
 };
 
 TEST_F(localValueListClassTest, isThereFromTheStartUnderBothNames) {
@@ -123,7 +124,7 @@ TEST_F(localValueListClassTest, showsObjectsByTheirTextAndOthersWithTheirType) {
 TEST_F(localValueListClassTest, showNeedsNoTitleButSomebodyToShowTo) {
     EXPECT_TRUE(call(cell, u"ПОКАЗАТЬ").done);
     EXPECT_EQ(dialogs.calls.at(1), "list []");
-    dialogs.opens = false;
+    dialogs.screen = false;
     EXPECT_EQ(call(cell, u"SHOW").status, localErrorTypeGRAPHICONLY);
     EXPECT_EQ(dialogs.calls.back(), "cursor restored");
 }
@@ -131,18 +132,17 @@ TEST_F(localValueListClassTest, showNeedsNoTitleButSomebodyToShowTo) {
 TEST_F(localValueListClassTest, choosesAmongPresentations) {
     list().valueAppend(1.0, u"one");
     list().valueAppend(2.0, u"two");
-    dialogs.answer = 2;
+    dialogs.answers = {std::size_t{2}};
     localValueDescription title = cellOf(u"which");
     localValueDescription start = cellOf(2.9);
     EXPECT_EQ(call(cell, u"ROWCHOOSE", {&title, &start}).text, "2");
     EXPECT_THAT(dialogs.calls,
                 testing::ElementsAre("cursor arrow", "choose [which] from 2 |one| |two|",
                                      "cursor restored"));
-    dialogs.answer = 0;
     EXPECT_EQ(call(cell, u"РЯДВЫБРАТЬ").text, "0");
     EXPECT_EQ(dialogs.calls.at(4), "choose [] from 0 |one| |two|");
     EXPECT_EQ(call(cell, u"ROWCHOOSE").status, localErrorTypeOK);
-    dialogs.answer.reset();
+    dialogs.screen = false;
     EXPECT_EQ(call(cell, u"ROWCHOOSE").status, localErrorTypeGRAPHICONLY);
     EXPECT_EQ(dialogs.calls.back(), "cursor restored");
 }
@@ -160,7 +160,7 @@ TEST_F(localValueListClassTest, aStartRowThatIsNotThereAsksNobody) {
 
 // A dialog lets the rest of the program run, and that may let go of the list.
 TEST_F(localValueListClassTest, mayGoWhileItsRowsAreChosen) {
-    class LettingGo final : public choosingHost {
+    class LettingGo final : public recordingHost {
     public:
         std::optional<std::size_t>
         chooseRow(std::u16string_view, const std::vector<std::u16string>&, std::size_t) override {

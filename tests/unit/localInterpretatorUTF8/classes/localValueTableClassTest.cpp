@@ -9,6 +9,7 @@ class localValueTableClassTest : public containerTest {
 protected:
     localValueTableClassTest() {
         cell.objectBind(new localValueTable, localValueTable::classDeclaration());
+        dialogs.screen = true;
     }
     void TearDown() override {
         localValueTable::showInstall(nullptr);
@@ -26,7 +27,7 @@ protected:
         table().cell(1, 0).setBoolean(true);
     }
 
-    choosingHost dialogs;
+    recordingHost dialogs;
 };
 
 TEST_F(localValueTableClassTest, isThereFromTheStartUnderBothNames) {
@@ -169,13 +170,12 @@ TEST_F(localValueTableClassTest, valuegetLeavesTheNumberZeroOnFailure) {
 
 TEST_F(localValueTableClassTest, choosesARowByOneColumnOrAll) {
     fill();
-    dialogs.answer = 2;
+    dialogs.answers = {std::size_t{2}};
     localValueDescription title = cellOf(u"which");
     localValueDescription all = cellOf(u"");
     EXPECT_EQ(call(cell, u"ROWCHOOSE", {&all, &title}).text, "2");
     EXPECT_EQ(dialogs.calls.back(), "choose [which] from 0 |x 1.5 | |ИСТИНА 0 |");
     localValueDescription column = cellOf(u"b");
-    dialogs.answer = 0;
     EXPECT_EQ(call(cell, u"РЯДВЫБРАТЬ", {&column, &title}).text, "0");
     EXPECT_EQ(dialogs.calls.back(), "choose [which] from 0 |1.5 | |0 |");
     EXPECT_EQ(table().rowActual, 0U);
@@ -188,6 +188,7 @@ TEST_F(localValueTableClassTest, choosesNothingByAColumnThatIsNotThereOrWithNobo
     EXPECT_EQ(call(cell, u"ROWCHOOSE", {&column, &title}).status, localErrorTypeOUTOFRANGE);
     EXPECT_TRUE(dialogs.calls.empty());
     column.setVal(u"a");
+    dialogs.screen = false;
     EXPECT_EQ(call(cell, u"ROWCHOOSE", {&column, &title}).status, localErrorTypeGRAPHICONLY);
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <initializer_list>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,33 +9,6 @@
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "support/countedClass.h"
 #include "support/language.h"
-
-// Shows lists and chooses rows as it was told to.
-class choosingHost : public recordingHost {
-public:
-    bool showList(std::u16string_view title, const std::vector<std::u16string>& lines) override {
-        calls.push_back("list [" + utf8(title) + "]" + joined(lines));
-        return opens;
-    }
-    std::optional<std::size_t> chooseRow(std::u16string_view title,
-                                         const std::vector<std::u16string>& lines,
-                                         std::size_t startRow) override {
-        calls.push_back("choose [" + utf8(title) + "] from " + std::to_string(startRow) +
-                        joined(lines));
-        return answer;
-    }
-
-    std::optional<std::size_t> answer;
-
-private:
-    static std::string joined(const std::vector<std::u16string>& lines) {
-        std::string text;
-        for (const std::u16string& line : lines) {
-            text += " |" + utf8(line) + "|";
-        }
-        return text;
-    }
-};
 
 // A cell that holds a number, a text or an object.
 inline localValueDescription cellOf(double number) {

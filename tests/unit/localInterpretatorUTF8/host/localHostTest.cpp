@@ -25,11 +25,32 @@ TEST(localHost, aTerminalMakesLinesOfBoxesAndRefusesDialogs) {
     const capturedOutput output;
     localHost& terminal = localHost::current();
     terminal.setCursor(localHost::Cursor::wait);
-    terminal.messageBox(localHost::MessageKind::critical, u"save", u"Не вышло");
+    terminal.report({.kind = localReport::Kind::critical, .title = u"save", .text = u"Не вышло"});
     EXPECT_THAT(output.rawLines(), ElementsAre("save: Не вышло"));
+    EXPECT_FALSE(terminal.hasScreen());
+    EXPECT_FALSE(terminal.showMessage({.text = u"text"}));
+    EXPECT_FALSE(terminal.showText(u"title", u"text"));
     EXPECT_FALSE(terminal.showList(u"title", {u"line"}));
     EXPECT_FALSE(terminal.chooseRow(u"title", {u"line"}, 1).has_value());
+    EXPECT_FALSE(terminal.chooseDate(u"20261115").has_value());
+    EXPECT_EQ(terminal.chooseFile(u"title", u".", {u"*.prg"}), u"");
+    EXPECT_THAT(output.rawLines(), testing::SizeIs(1));
     EXPECT_FALSE(terminal.openEditor(u"x.prg", localString::codePageUtf8));
+}
+
+TEST(localHost, aTerminalAnswersQuestionsByTheirDefault) {
+    const capturedOutput output;
+    localReport question{.kind = localReport::Kind::question,
+                         .title = u"delete",
+                         .text = u"Record will be deleted. <BR/> Are you sure? ",
+                         .buttons = {localReport::Button::ok, localReport::Button::cancel},
+                         .defaultButton = localReport::Button::cancel,
+                         .form = localReport::Form::html};
+    EXPECT_EQ(localHost::current().report(question), localReport::Button::cancel);
+    EXPECT_THAT(output.rawLines(),
+                ElementsAre("delete: Record will be deleted. ", " Are you sure? "));
+    question.defaultButton = localReport::Button::ok;
+    EXPECT_EQ(localHost::current().report(question), localReport::Button::ok);
 }
 
 TEST(localHost, aTerminalListsTheWorkingDirectoryFoldersFirst) {

@@ -281,9 +281,11 @@ TEST_F(commandTest, theHostOpensEditors) {
     EXPECT_TRUE(act("EDIT COMM cp866 new.prg").done);
     EXPECT_TRUE(act("EDIT COMM UTF8 new.prg").done);
     EXPECT_TRUE(act("EDIT COMM utf8.prg").done);
-    EXPECT_THAT(host.calls, ElementsAre("outside editor [new.prg]", "outside editor [a b.prg]",
-                                        "editor [new.prg] 4", "editor [new.prg] 2",
-                                        "editor [new.prg] 3", "editor [new.prg] 4", testing::_));
+    EXPECT_THAT(host.calls,
+                ElementsAre("openOutsideEditor new.prg", "openOutsideEditor a b.prg",
+                            "openEditor new.prg code page 4", "openEditor new.prg code page 2",
+                            "openEditor new.prg code page 3", "openEditor new.prg code page 4",
+                            testing::_));
     // A file that is not there is made, holding a line end; one that is there stays.
     std::ifstream made("new.prg");
     std::string text((std::istreambuf_iterator<char>(made)), std::istreambuf_iterator<char>());
@@ -311,13 +313,13 @@ TEST_F(commandTest, theHostStartsPrograms) {
     EXPECT_TRUE(act("RUN notepad.exe").done);
     EXPECT_TRUE(act("RUN \"dir\\\\x\" + ' y'").done);
     EXPECT_TRUE(act("run \"a b\"").done);
-    EXPECT_THAT(host.calls, ElementsAre("start [notepad]", "start [notepad]", "start [dir//x y]",
-                                        "start [a b]"));
+    EXPECT_THAT(host.calls, ElementsAre("startProgram notepad", "startProgram notepad",
+                                        "startProgram dir//x y", "startProgram a b"));
     EXPECT_EQ(act("RUN \"a\"+").status, 37);
     host.calls.clear();
     EXPECT_TRUE(act("DIR").done);
     EXPECT_TRUE(act("direct").done);
-    EXPECT_THAT(host.calls, ElementsAre("directory", "directory"));
+    EXPECT_THAT(host.calls, ElementsAre("showDirectory", "showDirectory"));
 }
 
 TEST_F(commandTest, classesAreLoaded) {

@@ -342,7 +342,7 @@ TEST_F(compilerTest, anEditorCommandCreatesItsFileWhileCompiling) {
     EXPECT_FALSE(localPlatform::pathExists(u"created.prg"));
     EXPECT_TRUE(compile("MODIFY COMMAND \"created.prg\";").done);
     EXPECT_TRUE(localPlatform::pathExists(u"created.prg"));
-    EXPECT_EQ(host.calls, std::vector<std::string>{"outside editor [created.prg]"});
+    EXPECT_EQ(host.calls, std::vector<std::string>{"openOutsideEditor created.prg"});
 }
 
 TEST_F(compilerTest, nestingTooDeepIsRefused) {

@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
-#include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
+#include "support/recordingHost.h"
 
 // Texts are compared as UTF-8, so that a failure can be read.
 inline std::string utf8(std::u16string_view text) {
@@ -64,51 +64,6 @@ public:
 private:
     std::ostringstream buffer_;
     std::streambuf* before_;
-};
-
-// Writes down what the language asks of its surroundings, and answers as it was told to.
-class recordingHost : public localHost {
-public:
-    recordingHost() { install(this); }
-    ~recordingHost() override { install(nullptr); }
-    recordingHost(const recordingHost&) = delete;
-    recordingHost& operator=(const recordingHost&) = delete;
-
-    void setCursor(Cursor cursor) override {
-        calls.push_back(cursor == Cursor::wait    ? "cursor wait"
-                        : cursor == Cursor::arrow ? "cursor arrow"
-                                                  : "cursor restored");
-    }
-    void messageBox(MessageKind kind, std::u16string_view title,
-                    std::u16string_view text) override {
-        calls.push_back((kind == MessageKind::critical  ? "critical ["
-                         : kind == MessageKind::warning ? "warning ["
-                                                        : "information [") +
-                        utf8(title) + "] [" + withoutTail(utf8(text)) + "]");
-    }
-    void haltBox(std::u16string_view title, std::u16string_view text) override {
-        calls.push_back("halt [" + utf8(title) + "] [" + utf8(text) + "]");
-        atHalt();
-    }
-    bool startProgram(std::u16string_view commandLine) override {
-        calls.push_back("start [" + utf8(commandLine) + "]");
-        return opens;
-    }
-    void showDirectory() override { calls.push_back("directory"); }
-    bool openOutsideEditor(std::u16string_view fileName) override {
-        calls.push_back("outside editor [" + utf8(fileName) + "]");
-        return opens;
-    }
-    bool openEditor(std::u16string_view fileName, localString::possibleCodePage codePage) override {
-        calls.push_back("editor [" + utf8(fileName) + "] " + std::to_string(codePage));
-        return opens;
-    }
-
-    // What is done while the box of a halt is open; the process ends behind it.
-    virtual void atHalt() {}
-
-    std::vector<std::string> calls;
-    bool opens = true;
 };
 
 // The statement must end the process with the box and code of a halt, and exactly this message.

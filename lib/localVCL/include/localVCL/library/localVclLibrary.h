@@ -1,5 +1,5 @@
-// The functions of the language that show something or ask a person: STRINGSHOW, MESSAGEBOX,
-// DATECHOOSEASSTRING, PIXMAPASBASE64SHOW; and those on colours and pictures.
+// The functions of the language that need a widget: PIXMAPASBASE64SHOW; and those on colours and
+// pictures.
 #pragma once
 
 // Gives the language these functions. There must be an application when they are called.
