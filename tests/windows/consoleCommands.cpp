@@ -180,10 +180,9 @@ private slots:
     }
 
     void settingsNameCommandsOfKeys() {
-        write(
-            "localConsole.ini",
-            json(
-                "{'F1': '? 101', 'F3': '? 103', 'F5': 'имя = \\'Ёж\\'', 'F8': '', 'F10': '? 110', 'F12': '? 112'}"));
+        write("localConsole.ini",
+              json("{'F1': '? 101', 'F3': '? 103', 'F5': 'имя = \\'Ёж\\'', 'F8': '', "
+                   "'F10': '? 110', 'F12': '? 112'}"));
         start();
         key(Qt::Key_F1);
         key(Qt::Key_F3);

@@ -178,8 +178,8 @@ private slots:
     }
 
     void faultInAFunctionEndsTheProgram() {
-        debug(
-            "FUNCTION f(n)\nx = n;\n? nothere;\nRETURN n;\nENDFUNCTION;\na = 1;\nb = f(a);\nc = 2;\n");
+        debug("FUNCTION f(n)\nx = n;\n? nothere;\nRETURN n;\nENDFUNCTION;\n"
+              "a = 1;\nb = f(a);\nc = 2;\n");
         runThrough();
         QVERIFY2(output_.last().startsWith("Неверный атрибут. func: call "),
                  qPrintable(output_.last()));

@@ -629,8 +629,8 @@ void editor::diagnosisKey() {
     edit.lineShow(3);
     outputCapture output;
     QTest::keyClick(&edit, Qt::Key_F2, Qt::AltModifier);
-    const QRegularExpression line(
-        "^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d blockNumber=2 func: .* file: .* line: \\d+\n$");
+    const QRegularExpression line("^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d "
+                                  "blockNumber=2 func: .* file: .* line: \\d+\n$");
     QVERIFY2(line.match(output.text()).hasMatch(), qPrintable(output.text()));
     QCOMPARE(text(edit), QString("a\nb\nc"));
 }

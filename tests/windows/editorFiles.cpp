@@ -601,8 +601,8 @@ void editorFiles::closeEventIsIgnored() {
     outputCapture output;
     QVERIFY(!edit.close());
     QVERIFY(edit.isVisible());
-    const QRegularExpression line(
-        "^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d closeEvent func: closeEvent file: .* line: \\d+\n$");
+    const QRegularExpression line("^\\d\\d\\.\\d\\d\\.\\d{4} \\d\\d:\\d\\d:\\d\\d "
+                                  "closeEvent func: closeEvent file: .* line: \\d+\n$");
     QVERIFY2(line.match(output.text()).hasMatch(), qPrintable(output.text()));
 }
 

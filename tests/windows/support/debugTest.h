@@ -81,9 +81,9 @@ protected:
     }
     // Defines a function of a count that writes so many lines, in which the worker does not stop.
     void defineLines() {
-        consoleTest::write(
-            "lines.prg",
-            "FUNCTION lines(n)\nFOR i = 1 TO n DO\n? \"worker\";\nENDDO;\nRETURN n;\nENDFUNCTION;\n");
+        consoleTest::write("lines.prg",
+                           "FUNCTION lines(n)\nFOR i = 1 TO n DO\n? \"worker\";\nENDDO;\n"
+                           "RETURN n;\nENDFUNCTION;\n");
         enter("DO lines.prg");
     }
     // Lets the worker go to its next stop while this thread takes no events. False when it does not
