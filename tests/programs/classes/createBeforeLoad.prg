@@ -1,4 +1,8 @@
 ? createobject("TEST"); // expect status: 14
 // expect:
-// expect: >> createobject() in );
-// expect: ERROR!!! Неизвестный класс.
+// trace: >> createobject() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неизвестный класс. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: createobject("TEST") func: execute file: localExecution.cpp
+// trace: ERROR!!! Неизвестный класс. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: createobject("TEST") in  expression func: execute file: localExecution.cpp
+// trace: Неизвестный класс. func: textExec file: localProgram.cpp

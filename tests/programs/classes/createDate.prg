@@ -1,2 +1,9 @@
 // The class of dates is in use inside and not open to programs.
 ? createobject("DATE"); // expect status: 14
+// expect:
+// trace: >> createobject() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неизвестный класс. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: createobject("DATE") func: execute file: localExecution.cpp
+// trace: ERROR!!! Неизвестный класс. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: createobject("DATE") in  expression func: execute file: localExecution.cpp
+// trace: Неизвестный класс. func: textExec file: localProgram.cpp

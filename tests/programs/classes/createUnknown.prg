@@ -1,1 +1,8 @@
 ? createobject("NOBODY");       // expect status: 14
+// expect:
+// trace: >> createobject() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неизвестный класс. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: createobject("NOBODY") func: execute file: localExecution.cpp
+// trace: ERROR!!! Неизвестный класс. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: createobject("NOBODY") in  expression func: execute file: localExecution.cpp
+// trace: Неизвестный класс. func: textExec file: localProgram.cpp

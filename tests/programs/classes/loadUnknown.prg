@@ -1,1 +1,8 @@
 ? classload("NOBODY");          // expect status: 14
+// expect:
+// trace: >> classload() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неизвестный класс. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: classload("NOBODY") func: execute file: localExecution.cpp
+// trace: ERROR!!! Неизвестный класс. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: classload("NOBODY") in  expression func: execute file: localExecution.cpp
+// trace: Неизвестный класс. func: textExec file: localProgram.cpp

@@ -2,5 +2,9 @@ x = classload("TEST");
 o = createobject("TEST");
 ? o.nobody();                   // expect status: 27
 // expect:
-// expect: >> nobody() in );
-// expect: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC.
+// trace: >> nobody() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: o.nobody() func: execute file: localExecution.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: o.nobody() in  expression func: execute file: localExecution.cpp
+// trace: Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: textExec file: localProgram.cpp

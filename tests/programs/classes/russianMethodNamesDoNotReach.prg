@@ -1,3 +1,10 @@
 x = classload("TEST");
 o = createobject("TEST");
 ? o.ПОЛУЧИТЬЦЕЛОЕ();            // expect status: 27
+// expect:
+// trace: >> ПОЛУЧИТЬЦЕЛОЕ() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: o.ПОЛУЧИТЬЦЕЛОЕ() func: execute file: localExecution.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: o.ПОЛУЧИТЬЦЕЛОЕ() in  expression func: execute file: localExecution.cpp
+// trace: Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: textExec file: localProgram.cpp

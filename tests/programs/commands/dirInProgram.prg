@@ -1,1 +1,6 @@
-DIR;                            // expect status: 37
+DIR;
+// expect: DIR;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 3 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

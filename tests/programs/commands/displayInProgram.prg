@@ -4,7 +4,7 @@ DISP MEMO X;
 // expect match: СПИСОК ПЕРЕМЕННЫХ*
 // expect match: в том числе*
 // expect match: 0 [0x*] var [X] : *
-// expect match: Accessible RAM: *
+// trace match: Accessible RAM: * func: dispMemo file: localContextListings.cpp
 DISP CLASS;
 // expect: СПИСОК КЛАССОВ
 // expect: СПИСОКЗНАЧЕНИЙ (VALUELIST)  - класс СписокЗначений

@@ -11,4 +11,4 @@ x = f(2);
 // expect match: 0 [0x*] var [INNER] : *
 // expect match: в том числе список переменных с шаблоном имени [*NER] для  ГЛОБАЛЬНОГО  контекста [0x*]
 // expect match: 0 [0x*] var [OUTER] : *
-// expect match: Accessible RAM: *
+// trace match: Accessible RAM: * func: dispMemo file: localContextListings.cpp

@@ -4,7 +4,7 @@ LOAD CLASS NOBODY ;             // expect status: 14
 // expect: before
 // expect: Пытаемся загрузить класс
 // expect: Пытаемся загрузить класс [NOBODY]
-// expect: =LOAD CLASS NOBODY;
+// trace: =LOAD CLASS NOBODY;  func: execute file: localExecution.cpp
 // expect: Неизвестный класс.
-// expect: ERROR!!!
-// expect: Неизвестный класс.
+// trace: ERROR!!! func: execute file: localExecution.cpp
+// trace: Неизвестный класс. func: textExec file: localProgram.cpp

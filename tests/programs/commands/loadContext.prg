@@ -151,7 +151,7 @@ x = listed(1);
 // expect match: 0 [0x*] var [A] : *
 // expect match: в том числе список переменных для  ГЛОБАЛЬНОГО  контекста [0x*]
 // expect match: 0 [0x*] var [X] : *
-// expect match: Accessible RAM: *
+// trace match: Accessible RAM: * func: dispMemo file: localContextListings.cpp
 // expect: СПИСОК КЛАССОВ
 // expect: СПИСОКЗНАЧЕНИЙ (VALUELIST)  - класс СписокЗначений
 // expect: ТАБЛИЦАЗНАЧЕНИЙ (VALUETABLE)  - класс ТаблицаЗначений

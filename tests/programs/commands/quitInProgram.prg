@@ -1,5 +1,8 @@
 // In a program it spoils the compile.
-? "never";
-QUIT ;                          // expect status: 5
-// expect match: // *
+// expect: QUIT ;
 // expect: Неизвестный статус возврата ном: 5
+// trace: line: 8 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
+// expect status: 5
+? "never";
+QUIT ;

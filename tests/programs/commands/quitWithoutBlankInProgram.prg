@@ -1,1 +1,6 @@
-QUIT;                           // expect status: 37
+QUIT;
+// expect: QUIT;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

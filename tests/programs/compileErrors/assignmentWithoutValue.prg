@@ -1,8 +1,8 @@
-// expect: ;
-// expect: Синтаксическая ошибка.
+// trace: ; func: textCompile file: localCompiler.cpp
+// trace: Синтаксическая ошибка. func: textCompile file: localCompiler.cpp
 // expect: x = ;
 // expect: Синтаксическая ошибка.
-// expect: line: 8 pos: 4
-// expect: char: 59
+// trace: line: 8 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
 // expect status: 37
 x = ;

@@ -1,6 +1,7 @@
 // ELSE where no IF is open comes to the top as a status without words.
-ELSE                    // expect status: 0
-// expect: ELSE                    // expect status: 0
+// expect: ELSE
 // expect: Неизвестный статус возврата ном: 0
-// expect: line: 2 pos: 4
-// expect: char: 32
+// trace: line: 7 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
+// expect status: 0
+ELSE

@@ -1,1 +1,6 @@
-IF 1 THEN x=2; ELSE x=3;        // expect status: 45
+// expect: IF 1 THEN x=2; ELSE x=3;
+// expect: Синтаксическая ошибка. Ожидается ключевое слово "КОНЕЦЕСЛИ" ("endif")
+// trace: line: 6 pos: 24 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
+// expect status: 45
+IF 1 THEN x=2; ELSE x=3;

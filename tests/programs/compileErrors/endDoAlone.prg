@@ -1,6 +1,7 @@
 ? 1;
-ENDDO;                  // expect status: 2
-// expect: ENDDO;                  // expect status: 2
+ENDDO;
+// expect: ENDDO;
 // expect: Непредвиденное использование зарезарвированного слова КонецЦикла (EndDo)
-// expect: line: 2 pos: 5
-// expect: char: 59
+// trace: line: 2 pos: 5 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 2

@@ -1,3 +1,6 @@
-ENDFUNCTION;            // expect status: 3
-// expect: ENDFUNCTION;            // expect status: 3
+ENDFUNCTION;
+// expect: ENDFUNCTION;
 // expect: Непредвиденное использование зарезарвированного слова КонецФункции (EndFunction)
+// trace: line: 1 pos: 11 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 3

@@ -1,1 +1,6 @@
-КОНЕЦФУНКЦИИ;           // expect status: 3
+КОНЕЦФУНКЦИИ;
+// expect: КОНЕЦФУНКЦИИ;
+// expect: Непредвиденное использование зарезарвированного слова КонецФункции (EndFunction)
+// trace: line: 1 pos: 12 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 3

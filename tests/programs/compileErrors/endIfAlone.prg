@@ -1,3 +1,6 @@
-ENDIF;                  // expect status: 4
-// expect: ENDIF;                  // expect status: 4
+ENDIF;
+// expect: ENDIF;
 // expect: Непредвиденное использование зарезарвированного слова КонецЕсли (EndIf)
+// trace: line: 1 pos: 5 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 4

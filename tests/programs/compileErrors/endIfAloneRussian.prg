@@ -1,1 +1,6 @@
-КОНЕЦЕСЛИ;              // expect status: 4
+КОНЕЦЕСЛИ;
+// expect: КОНЕЦЕСЛИ;
+// expect: Непредвиденное использование зарезарвированного слова КонецЕсли (EndIf)
+// trace: line: 1 pos: 9 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 4

@@ -1,1 +1,6 @@
-КОНЕЦПРОЦЕДУРЫ;         // expect status: 3
+КОНЕЦПРОЦЕДУРЫ;
+// expect: КОНЕЦПРОЦЕДУРЫ;
+// expect: Непредвиденное использование зарезарвированного слова КонецФункции (EndFunction)
+// trace: line: 1 pos: 14 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 3

@@ -1,1 +1,6 @@
-FOR i= TO 3 DO ENDDO;           // expect status: 48
+FOR i= TO 3 DO ENDDO;
+// expect: FOR i= TO 3 DO ENDDO;
+// expect: Синтаксическая ошибка. Ожидается ключевое слово "ПО" ("to")
+// trace: line: 1 pos: 11 func: textExec file: localProgram.cpp
+// trace: char: 32 func: textExec file: localProgram.cpp
+// expect status: 48

@@ -1,5 +1,6 @@
-FOR i TO 3 DO ENDDO;    // expect status: 39
-// expect: FOR i TO 3 DO ENDDO;    // expect status: 39
+FOR i TO 3 DO ENDDO;
+// expect: FOR i TO 3 DO ENDDO;
 // expect: Синтаксическая ошибка. Ожидается "="
-// expect: line: 1 pos: 6
-// expect: char: 84
+// trace: line: 1 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 84 func: textExec file: localProgram.cpp
+// expect status: 39

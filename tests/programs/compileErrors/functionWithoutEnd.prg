@@ -1,6 +1,7 @@
-FUNCTION f()            // expect status: 46
-? 1;
-// expect: // expect: char: 0
+// expect: ? 1;
 // expect: Синтаксическая ошибка. Ожидается ключевое слово "КОНЕЦФУНКЦИИ" ("endfunction")
-// expect: line: 6 pos: 18
-// expect: char: 0
+// trace: line: 7 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
+// expect status: 46
+FUNCTION f()
+? 1;

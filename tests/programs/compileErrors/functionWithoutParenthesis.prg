@@ -1,5 +1,6 @@
-FUNCTION f ;            // expect status: 40
-// expect: FUNCTION f ;            // expect status: 40
+FUNCTION f ;
+// expect: FUNCTION f ;
 // expect: Синтаксическая ошибка. Ожидается "("
-// expect: line: 1 pos: 10
-// expect: char: 32
+// trace: line: 1 pos: 10 func: textExec file: localProgram.cpp
+// trace: char: 32 func: textExec file: localProgram.cpp
+// expect status: 40

@@ -1,2 +1,7 @@
-IF ) THEN x=2; ENDIF;           // expect status: 37
-// expect: ERROR!!!
+IF ) THEN x=2; ENDIF;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: IF ) THEN x=2; ENDIF;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 3 func: textExec file: localProgram.cpp
+// trace: char: 41 func: textExec file: localProgram.cpp
+// expect status: 37

@@ -1,5 +1,6 @@
-IF 1 THEN x=2;                  // expect status: 45
-// expect: // expect: char: 0
+// expect: IF 1 THEN x=2;
 // expect: Синтаксическая ошибка. Ожидается ключевое слово "КОНЕЦЕСЛИ" ("endif")
-// expect: line: 5 pos: 18
-// expect: char: 0
+// trace: line: 6 pos: 14 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
+// expect status: 45
+IF 1 THEN x=2;

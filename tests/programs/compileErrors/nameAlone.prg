@@ -1,1 +1,6 @@
-x;                      // expect status: 37
+x;
+// expect: x;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 1 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

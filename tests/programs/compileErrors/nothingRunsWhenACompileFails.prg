@@ -1,4 +1,8 @@
 ? "never";
-? ;                     // expect status: 37
-// expect: ERROR!!!
-// expect: ? ;                     // expect status: 37
+? ;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? ;
+// expect: Синтаксическая ошибка.
+// trace: line: 2 pos: 2 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

@@ -1,5 +1,6 @@
-FUNCTION f(a b) RETURN 1; ENDFUNCTION;  // expect status: 40
-// expect: FUNCTION f(a b) RETURN 1; ENDFUNCTION;  // expect status: 40
+FUNCTION f(a b) RETURN 1; ENDFUNCTION;
+// expect: FUNCTION f(a b) RETURN 1; ENDFUNCTION;
 // expect: Синтаксическая ошибка. Ожидается "("
-// expect: line: 1 pos: 13
-// expect: char: 98
+// trace: line: 1 pos: 13 func: textExec file: localProgram.cpp
+// trace: char: 98 func: textExec file: localProgram.cpp
+// expect status: 40

@@ -1,7 +1,8 @@
 ? 1;
-  ? (2;                 // expect status: 41
-// expect: ERROR!!!
-// expect:   ? (2;                 // expect status: 41
+  ? (2;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect:   ? (2;
 // expect: Синтаксическая ошибка. Ожидается ")"
-// expect: line: 2 pos: 6
-// expect: char: 59
+// trace: line: 2 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 41

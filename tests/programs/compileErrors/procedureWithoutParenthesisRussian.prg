@@ -1,1 +1,6 @@
-ПРОЦЕДУРА f;            // expect status: 40
+ПРОЦЕДУРА f;
+// expect: ПРОЦЕДУРА f;
+// expect: Синтаксическая ошибка. Ожидается "("
+// trace: line: 1 pos: 11 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 40

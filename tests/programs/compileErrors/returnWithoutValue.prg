@@ -1,6 +1,7 @@
-RETURN;                 // expect status: 15
-// expect: Внимание!!! Команда RETURN (ВОЗВРАТ) должна ВСЕГДА иметь возвращаемое значение!
-// expect: RETURN;                 // expect status: 15
+RETURN;
+// trace: Внимание!!! Команда RETURN (ВОЗВРАТ) должна ВСЕГДА иметь возвращаемое значение! func: textCompile file: localCompiler.cpp
+// expect: RETURN;
 // expect: Встретился оператор ВОЗВРАТ (return) без возвращаемого значения.
-// expect: line: 1 pos: 6
-// expect: char: 59
+// trace: line: 1 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 15

@@ -1,1 +1,6 @@
-;                       // expect status: 37
+;
+// expect: ;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 0 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

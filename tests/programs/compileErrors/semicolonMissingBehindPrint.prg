@@ -1,2 +1,7 @@
 ? 1
-x = 2;                  // expect status: 42
+// expect: ? 1
+// expect: Синтаксическая ошибка. Ожидается ";"
+// trace: line: 1 pos: 2 func: textExec file: localProgram.cpp
+// trace: char: 49 func: textExec file: localProgram.cpp
+// expect status: 42
+x = 2;

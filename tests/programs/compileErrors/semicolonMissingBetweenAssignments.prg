@@ -1,6 +1,7 @@
 x = 1
-y = 2;                  // expect status: 42
 // expect: x = 1
 // expect: Синтаксическая ошибка. Ожидается ";"
-// expect: line: 1 pos: 4
-// expect: char: 49
+// trace: line: 1 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 49 func: textExec file: localProgram.cpp
+// expect status: 42
+y = 2;

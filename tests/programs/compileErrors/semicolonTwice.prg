@@ -1,1 +1,6 @@
-x = 1;;                 // expect status: 37
+x = 1;;
+// expect: x = 1;;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

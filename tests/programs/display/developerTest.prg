@@ -1,6 +1,6 @@
 // The entries for developers tell that they were called.
 ? ___TEST();
-// expect:  метод ___test()
+// trace:  метод ___test() func: ___TEST file: localDeveloperFunctions.cpp
 // expect: 1
 ? ___TEST__TEXTBROWSER(CREATEOBJECT("VALUELIST"));
 // expect:  Ошибка! Пустой список значений

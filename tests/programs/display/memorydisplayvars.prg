@@ -6,7 +6,7 @@ beta = "text";
 // expect: СПИСОК ПЕРЕМЕННЫХ *************** с шаблоном имени [AL*]
 // expect match: в том числе список переменных с шаблоном имени [AL*] для *контекста [0x*]
 // expect match: 0 [0x*] var [ALPHA] :  address: [0x*]  Type: [ЧИСЛО]  num: [5]  pointer: *  wStr: *  Val: [5]
-// expect match: Accessible RAM:*
+// trace match: Accessible RAM:* func: dispMemo file: localContextListings.cpp
 // expect: 1
 MEMORYDISPLAYVARS();
 // expect:
@@ -14,4 +14,4 @@ MEMORYDISPLAYVARS();
 // expect match: в том числе список переменных для *контекста [0x*]
 // expect match: 0 [0x*] var [ALPHA] : *
 // expect match: 1 [0x*] var [BETA] : *
-// expect match: Accessible RAM:*
+// trace match: Accessible RAM:* func: dispMemo file: localContextListings.cpp

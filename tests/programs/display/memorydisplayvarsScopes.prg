@@ -12,4 +12,4 @@ show(1);
 // expect match: 0 [0x*] var [INNER] : *Val: [inside]
 // expect match: в том числе список переменных с шаблоном имени [INNER] для *
 // expect match: 0 [0x*] var [INNER] : *Val: [outside]
-// expect match: Accessible RAM:*
+// trace match: Accessible RAM:* func: dispMemo file: localContextListings.cpp

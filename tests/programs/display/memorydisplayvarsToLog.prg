@@ -10,12 +10,12 @@ MEMORYDISPLAYVARS("ALPHA",2);
 // expect: СПИСОК ПЕРЕМЕННЫХ *************** с шаблоном имени [ALPHA]
 // expect match: в том числе список переменных *
 // expect match: 0 [0x*] var [ALPHA] : *
-// expect match: Accessible RAM:*
+// trace match: Accessible RAM:* func: dispMemo file: localContextListings.cpp
 ? FIND(STRINGFROMFILE("current.log"),"var [ALPHA]")>0;   // expect: ИСТИНА
 FILEDELETE("current.log");
 MEMORYDISPLAYVARS("NONE",3);
 // expect:
 // expect: СПИСОК ПЕРЕМЕННЫХ *************** с шаблоном имени [NONE]
 // expect match: в том числе список переменных *
-// expect match: Accessible RAM:*
+// trace match: Accessible RAM:* func: dispMemo file: localContextListings.cpp
 ? FILEEXIST("current.log");                        // expect: ЛОЖЬ

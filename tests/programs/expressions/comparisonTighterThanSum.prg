@@ -3,6 +3,7 @@ i = 1;
 n = 3;
 ? (i+1)<n;      // expect: ИСТИНА
 ? i+1<n;        // expect status: 50
-// expect: i+1<n
-// expect: ERROR!!! Неверный тип операнда (-ов)! in  expression.
-// expect: Expression below: i+1<n in  expression
+// trace: i+1<n func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: i+1<n in  expression func: execute file: localExecution.cpp
+// trace: Неверный тип операнда (-ов)! func: textExec file: localProgram.cpp

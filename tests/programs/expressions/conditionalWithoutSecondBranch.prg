@@ -1,1 +1,7 @@
-? 1?2:;                 // expect status: 37
+? 1?2:;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? 1?2:;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

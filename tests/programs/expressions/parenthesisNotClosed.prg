@@ -1,1 +1,7 @@
-? (1+2;                 // expect status: 41
+? (1+2;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? (1+2;
+// expect: Синтаксическая ошибка. Ожидается ")"
+// trace: line: 1 pos: 6 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 41

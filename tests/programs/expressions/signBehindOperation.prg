@@ -1,1 +1,7 @@
-? 2*-3;         // expect status: 37
+? 2*-3;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? 2*-3;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 4 func: textExec file: localProgram.cpp
+// trace: char: 45 func: textExec file: localProgram.cpp
+// expect status: 37

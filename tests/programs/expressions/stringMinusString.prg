@@ -1,6 +1,6 @@
 // Subtracting strings fails and leaves the status as it was, whose words say that all is well.
 x = "a"-"b";            // expect status: 54
 // expect:
-// expect: >> X="a"-"b";
-// expect: ERROR!!! Ок. Ошибки отсутствуют
-// expect: Ок. Ошибки отсутствуют
+// trace: >> X="a"-"b";  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ок. Ошибки отсутствуют func: execute file: localExecution.cpp
+// trace: Ок. Ошибки отсутствуют func: textExec file: localProgram.cpp

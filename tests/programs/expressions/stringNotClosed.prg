@@ -1,8 +1,8 @@
 // expect: ОШИБКА при сборке СТРОКОВОЙ костанты . Ожидается символ '"'
-// expect: ERROR!!!
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
 // expect: ? "abc;
 // expect: Синтаксическая ошибка.
-// expect: line: 8 pos: 7
-// expect: char: 0
+// trace: line: 8 pos: 7 func: textExec file: localProgram.cpp
+// trace: char: 0 func: textExec file: localProgram.cpp
 // expect status: 37
 ? "abc;

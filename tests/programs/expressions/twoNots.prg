@@ -1,1 +1,7 @@
-? !!(1=1);      // expect status: 37
+? !!(1=1);
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? !!(1=1);
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 3 func: textExec file: localProgram.cpp
+// trace: char: 33 func: textExec file: localProgram.cpp
+// expect status: 37

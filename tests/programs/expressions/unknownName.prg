@@ -1,5 +1,5 @@
 ? nobody;               // expect status: 10
-// expect: nobody
-// expect: ERROR!!! Неверный атрибут. in  expression.
-// expect: Expression below: nobody in  expression
-// expect: Неверный атрибут.
+// trace: nobody func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный атрибут. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: nobody in  expression func: execute file: localExecution.cpp
+// trace: Неверный атрибут. func: textExec file: localProgram.cpp

@@ -1,9 +1,9 @@
 // A file that cannot be read is told in two lines and by the result.
 ? MODULELOAD("missing.txt");
 // expect: Error!
-// expect: Файл не найден.
+// trace: Файл не найден. func: MODULELOAD file: localFileFunctions.cpp
 // expect: ЛОЖЬ
 ? MODULELOAD("data");
 // expect: Error!
-// expect: Файл не найден.
+// trace: Файл не найден. func: MODULELOAD file: localFileFunctions.cpp
 // expect: ЛОЖЬ

@@ -2,15 +2,15 @@
 STRINGAPPENDTOFILE("kept","beside.txt");
 ? STRINGAPPENDTOFILE("x","missing/a.txt");
 // expect: save: Ошибка записи файла [missing/a.txt]
-// expect:
+// trace:  func: fileWrite file: localFile.cpp
 // expect: ЛОЖЬ
 ? BASE64APPENDTOFILE("AA==","beside.txt/a.bin");
 // expect: save: Ошибка записи файла [beside.txt/a.bin]
-// expect:
+// trace:  func: fileWrite file: localFile.cpp
 // expect: ЛОЖЬ
 ? STRINGAPPENDTOFILE("x","data");
 // expect: save: Ошибка записи файла [data]
-// expect:
+// trace:  func: fileWrite file: localFile.cpp
 // expect: ЛОЖЬ
 ? STRINGAPPENDTOFILE("x","");       // expect: ЛОЖЬ
 ? BASE64APPENDTOFILE("AA==","");    // expect: ЛОЖЬ

@@ -2,3 +2,4 @@
 IF 1=1 THEN
     FUNCTION f() RETURN 1; ENDFUNCTION;
 ENDIF;                  // expect status: 54
+// trace: Ок. Ошибки отсутствуют func: textExec file: localProgram.cpp

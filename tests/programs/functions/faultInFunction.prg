@@ -1,12 +1,12 @@
 FUNCTION f(x) RETURN 1/x; ENDFUNCTION;
 ? f(2);                 // expect: 0.5
 ? f(0);                 // expect status: 21
-// expect match: localCompiledOperatorTypeRENURN with expression [(1/x)] file: localExecution.cpp line: *
-// expect: ERROR!!!
+// trace: localCompiledOperatorTypeRENURN with expression [(1/x)] file: localExecution.cpp
+// trace: ERROR!!! func: execute file: localExecution.cpp
 // expect:
-// expect: >> f() in );
-// expect: ERROR!!! Деление на 0!
-// expect: f(0)
-// expect: ERROR!!! Деление на 0! in  expression.
-// expect: Expression below: f(0) in  expression
-// expect: Деление на 0!
+// trace: >> f() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Деление на 0! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: f(0) func: execute file: localExecution.cpp
+// trace: ERROR!!! Деление на 0! in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: f(0) in  expression func: execute file: localExecution.cpp
+// trace: Деление на 0! func: textExec file: localProgram.cpp

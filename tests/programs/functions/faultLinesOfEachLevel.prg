@@ -2,18 +2,18 @@ FUNCTION inner(x) y = x-"a"; RETURN y; ENDFUNCTION;
 FUNCTION outer(x) y = inner(x); RETURN y; ENDFUNCTION;
 z = outer(1);           // expect status: 50
 // expect:
-// expect: >> Y=x-"a";
-// expect: ERROR!!! Неверный тип операнда (-ов)!
+// trace: >> Y=x-"a";  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: execute file: localExecution.cpp
 // expect:
-// expect: >> inner() in );
-// expect: ERROR!!! Неверный тип операнда (-ов)!
+// trace: >> inner() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
 // expect:
-// expect: >> Y=inner(x);
-// expect: ERROR!!! Неверный тип операнда (-ов)!
+// trace: >> Y=inner(x);  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: execute file: localExecution.cpp
 // expect:
-// expect: >> outer() in );
-// expect: ERROR!!! Неверный тип операнда (-ов)!
+// trace: >> outer() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
 // expect:
-// expect: >> Z=outer(1);
-// expect: ERROR!!! Неверный тип операнда (-ов)!
-// expect: Неверный тип операнда (-ов)!
+// trace: >> Z=outer(1);  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: execute file: localExecution.cpp
+// trace: Неверный тип операнда (-ов)! func: textExec file: localProgram.cpp

@@ -1,2 +1,10 @@
-l = PARSEJSON('[1, [2]');         // expect: Json Unabel resolve pos 7 in line with length 7
+l = PARSEJSON('[1, [2]');
+// trace: Json Unabel resolve pos 7 in line with length 7 func: scanStringParseJson file: localJsonReader.cpp
+// expect:
+// trace: >> PARSEJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> L=PARSEJSON('[1, [2]');  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: execute file: localExecution.cpp
+// trace: Ошибка разбора формата JSON! func: textExec file: localProgram.cpp
 // expect status: 34

@@ -1,1 +1,8 @@
 l = PARSEJSON();                  // expect status: 31
+// expect:
+// trace: >> PARSEJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неверное количество параметров! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> L=PARSEJSON();  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверное количество параметров! func: execute file: localExecution.cpp
+// trace: Неверное количество параметров! func: textExec file: localProgram.cpp

@@ -1,2 +1,10 @@
-l = PARSEJSON('"text"');                                    // expect: Json pos :0( line:1, pos: 0)
+l = PARSEJSON('"text"');
+// trace: Json pos :0( line:1, pos: 0) func: scanStringParseJson file: localJsonReader.cpp
+// expect:
+// trace: >> PARSEJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> L=PARSEJSON('"text"');  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: execute file: localExecution.cpp
+// trace: Ошибка разбора формата JSON! func: textExec file: localProgram.cpp
 // expect status: 34

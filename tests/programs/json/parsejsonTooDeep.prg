@@ -5,5 +5,13 @@ while (i < 100000) do
   s = s + "[";
   i = i + 1;
 enddo;
-l = PARSEJSON(s);                 // expect: Json pos :60000( line:1, pos: 60000)
+l = PARSEJSON(s);
+// trace: Json pos :60000( line:1, pos: 60000) func: scanStringParseJson file: localJsonReader.cpp
+// expect:
+// trace: >> PARSEJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> L=PARSEJSON(s);  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: execute file: localExecution.cpp
+// trace: Ошибка разбора формата JSON! func: textExec file: localProgram.cpp
 // expect status: 34

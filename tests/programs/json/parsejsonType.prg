@@ -1,1 +1,8 @@
 l = PARSEJSON(5);                 // expect status: 33
+// expect:
+// trace: >> PARSEJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неверный тип параметра (-ов)! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> L=PARSEJSON(5);  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип параметра (-ов)! func: execute file: localExecution.cpp
+// trace: Неверный тип параметра (-ов)! func: textExec file: localProgram.cpp

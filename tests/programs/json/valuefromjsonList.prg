@@ -6,7 +6,8 @@ m.VALUEADD(1=1);
 l.VALUEADD(5, "n");
 l.VALUEADD(m, "список");
 l.VALUEADD("s");
-r = VALUEFROMJSON(VALUETOJSON(l));                          // expect: Это булево!!!
+r = VALUEFROMJSON(VALUETOJSON(l));
+// trace: Это булево!!! func: fromJsonValueList file: localJsonRestore.cpp
 ? VALUETYPEASSTRING(r);                                     // expect: СПИСОКЗНАЧЕНИЙ
 ? r.SIZE();                                                 // expect: 3
 ? r.VALUEGETBYPRESENTATION("n");                            // expect: 5

@@ -16,5 +16,13 @@ e = CREATEOBJECT("VALUELIST");
 r = VALUEFROMJSON(e.TOJSON());
 ? VALUETYPEASSTRING(r);                                     // expect: СПИСОКЗНАЧЕНИЙ
 ? r.SIZE();                                                 // expect: 0
-r = VALUEFROMJSON(" // пусто");                             // expect match: Json *
-                                                            // expect status: 34
+r = VALUEFROMJSON(" // пусто");
+// trace: Json Unabel resolve pos 9 in line with length 9 func: scanStringParseJson file: localJsonReader.cpp
+// expect:
+// trace: >> VALUEFROMJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> R=VALUEFROMJSON(" // пусто");  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ошибка разбора формата JSON! func: execute file: localExecution.cpp
+// trace: Ошибка разбора формата JSON! func: textExec file: localProgram.cpp
+// expect status: 34

@@ -1,2 +1,10 @@
-v = VALUEFROMJSON('{"t": "UNK", "vP": "", "v": "1"}');      // expect: typeMnemo=UNK
+v = VALUEFROMJSON('{"t": "UNK", "vP": "", "v": "1"}');
+// trace: typeMnemo=UNK func: fromJsonValueList file: localJsonRestore.cpp
+// expect:
+// trace: >> VALUEFROMJSON() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Ошибка восстановления значения из строки JSON. В частности возникает когда в списке значений после парсинга JSON не хватает информации для воззтановления ValueDescription.  func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// expect:
+// trace: >> V=VALUEFROMJSON('{"t": "UNK", "vP": "", "v": "1"}');  func: execute file: localExecution.cpp
+// trace: ERROR!!! Ошибка восстановления значения из строки JSON. В частности возникает когда в списке значений после парсинга JSON не хватает информации для воззтановления ValueDescription.  func: execute file: localExecution.cpp
+// trace: Ошибка восстановления значения из строки JSON. В частности возникает когда в списке значений после парсинга JSON не хватает информации для воззтановления ValueDescription.  func: textExec file: localProgram.cpp
 // expect status: 35

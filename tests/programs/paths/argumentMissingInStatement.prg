@@ -1,4 +1,5 @@
-abs(1,);
-// expect: Error scanStringGetNameTokenAndEvaluete() ожидается  параметр в позиции 6
-// expect match: );*
+// expect: Error scanStringGetNameTokenAndEvaluete() ожидается  параметр в позиции 244
+// trace: ); func: textCompile file: localCompiler.cpp
+// trace: Ок. Ошибки отсутствуют func: textCompile file: localCompiler.cpp
 // expect status: 54
+abs(1,);

@@ -1,3 +1,7 @@
 x = 5;
 ? x.y();                // expect status: 51
-// expect match: ERROR в scanStringGetNameTokenAndEvaluete() (variable [y] is not OBJECT ) position: *
+// trace: ERROR в scanStringGetNameTokenAndEvaluete() (variable [y] is not OBJECT ) position: 4 func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: x.y() func: execute file: localExecution.cpp
+// trace: ERROR!!! Значение не является объектом. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: x.y() in  expression func: execute file: localExecution.cpp
+// trace: Значение не является объектом. func: textExec file: localProgram.cpp

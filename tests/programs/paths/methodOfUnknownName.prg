@@ -1,1 +1,5 @@
 ? nobody.y();           // expect status: 10
+// trace: nobody.y() func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный атрибут. in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: nobody.y() in  expression func: execute file: localExecution.cpp
+// trace: Неверный атрибут. func: textExec file: localProgram.cpp

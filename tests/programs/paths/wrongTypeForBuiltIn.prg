@@ -1,1 +1,8 @@
 ? abs("1");             // expect status: 33
+// expect:
+// trace: >> abs() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Неверный тип параметра (-ов)! func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: abs("1") func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип параметра (-ов)! in  expression. func: execute file: localExecution.cpp
+// trace: Expression below: abs("1") in  expression func: execute file: localExecution.cpp
+// trace: Неверный тип параметра (-ов)! func: textExec file: localProgram.cpp

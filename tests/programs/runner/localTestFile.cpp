@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
+#include <system_error>
+#include <utility>
 
 #include "localInterpretatorUTF8/text/localString.h"
 
@@ -44,42 +46,50 @@ bool patternMatches(std::string_view pattern, std::string_view line) {
     return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
 }
 
-// The line up to its trace tail; the whole line when it has none.
-std::string_view withoutTraceTail(std::string_view line) {
-    constexpr std::string_view functionWord = " func: ";
+// The line without the source line's number at its end; nothing when it has no trace tail.
+std::optional<std::string_view> withoutSourceLine(std::string_view line) {
     constexpr std::string_view fileWord = " file: ";
     constexpr std::string_view lineWord = " line: ";
     const std::size_t lineAt = line.rfind(lineWord);
     if (lineAt == std::string_view::npos) {
-        return line;
+        return std::nullopt;
     }
     const std::string_view number = line.substr(lineAt + lineWord.size());
-    if (number.empty() || number.find_first_not_of("0123456789") != std::string_view::npos) {
-        return line;
+    const std::string_view head = line.substr(0, lineAt);
+    const std::size_t fileAt = head.rfind(fileWord);
+    if (number.empty() || number.find_first_not_of("0123456789") != std::string_view::npos ||
+        fileAt == std::string_view::npos ||
+        head.find(' ', fileAt + fileWord.size()) != std::string_view::npos) {
+        return std::nullopt;
     }
-    const std::size_t fileAt = line.substr(0, lineAt).rfind(fileWord);
-    if (fileAt == std::string_view::npos) {
-        return line;
-    }
-    const std::size_t functionAt = line.substr(0, fileAt).rfind(functionWord);
-    return functionAt == std::string_view::npos ? line : line.substr(0, functionAt);
+    return head;
 }
 
 bool isWanted(const localWantedLine& wanted, std::string_view line) {
-    const auto equals = [&wanted](std::string_view got) {
-        return wanted.isPattern ? patternMatches(wanted.text, got) : wanted.text == got;
-    };
-    return equals(line) || equals(withoutTrailingBlanks(withoutTraceTail(line)));
-}
-
-// Reads the wanted thing of a line into the step. False when the comment is none.
-bool readWanted(std::string_view comment, std::size_t place, localTestStep& step,
-                std::string& fault) {
-    constexpr std::string_view word = "expect";
-    comment = withoutLeadingBlanks(comment.substr(2));
-    if (comment.substr(0, word.size()) != word) {
+    const std::optional<std::string_view> traced = withoutSourceLine(line);
+    if (traced.has_value() != wanted.isTrace) {
         return false;
     }
+    const std::string_view got = traced.value_or(line);
+    return wanted.form == localWantedForm::pattern ? patternMatches(wanted.text, got)
+                                                   : wanted.text == got;
+}
+
+// The word that begins a comment of what is wanted; empty when the comment is none.
+std::string_view wantedWord(std::string_view comment) {
+    for (const std::string_view word : {std::string_view("expect"), std::string_view("trace")}) {
+        if (comment.substr(0, word.size()) == word) {
+            return word;
+        }
+    }
+    return {};
+}
+
+// Reads the wanted thing of a line into the step. Gives why it cannot be read, or an empty text.
+std::string readWanted(std::string_view comment, std::size_t place, localTestStep& step) {
+    comment = withoutLeadingBlanks(comment.substr(2));
+    const std::string_view word = wantedWord(comment);
+    const bool isTrace = word == "trace";
     comment.remove_prefix(word.size());
     const auto behind = [&comment](std::string_view prefix) -> std::optional<std::string_view> {
         if (comment.substr(0, prefix.size()) != prefix) {
@@ -91,28 +101,36 @@ bool readWanted(std::string_view comment, std::size_t place, localTestStep& step
         }
         return withoutTrailingBlanks(rest);
     };
-    if (const auto text = behind(":")) {
-        step.output.push_back({place, false, asWritten(*text)});
-    } else if (const auto pattern = behind(" match:")) {
-        step.output.push_back({place, true, asWritten(*pattern)});
-    } else if (const auto number = behind(" status:")) {
-        int status = 0;
-        const char* const end = number->data() + number->size();
-        if (step.status || std::from_chars(number->data(), end, status).ptr != end) {
-            fault = "a second status, or none";
+    constexpr std::pair<std::string_view, localWantedForm> forms[] = {
+        {":", localWantedForm::text},
+        {" match:", localWantedForm::pattern},
+        {" many:", localWantedForm::many}};
+    for (const auto& [prefix, form] : forms) {
+        if (const auto text = behind(prefix)) {
+            step.output.push_back({place, isTrace, form, asWritten(*text)});
+            return {};
         }
-        step.status = {place, status};
-    } else {
-        fault = "neither \"expect:\" nor \"expect match:\" nor \"expect status:\"";
     }
-    return true;
+    const auto number = behind(" status:");
+    if (isTrace || !number) {
+        return "neither \"expect:\" nor \"trace:\", nor these with \" match\" or "
+               "\" many\", nor \"expect status:\"";
+    }
+    int status = 0;
+    const char* const end = number->data() + number->size();
+    const auto [readTo, fault] = std::from_chars(number->data(), end, status);
+    if (step.status || fault != std::errc() || readTo != end) {
+        return "a second status, or none";
+    }
+    step.status = {place, status};
+    return {};
 }
 
 // Where the comment begins that says what is wanted.
 std::size_t wantedAt(std::string_view line) {
     for (std::size_t at = line.find("//"); at != std::string_view::npos;
          at = line.find("//", at + 1)) {
-        if (withoutLeadingBlanks(line.substr(at + 2)).substr(0, 6) == "expect") {
+        if (!wantedWord(withoutLeadingBlanks(line.substr(at + 2))).empty()) {
             return at;
         }
     }
@@ -151,14 +169,13 @@ localTestFile localTestFileRead(const std::filesystem::path& file) {
         if (at == std::string::npos) {
             continue;
         }
-        std::string fault;
         if (test.steps.empty()) {
-            fault = "wanted before the first line";
+            test.fault = "wanted before the first line";
         } else {
-            readWanted(std::string_view(line).substr(at), place, test.steps.back(), fault);
+            test.fault = readWanted(std::string_view(line).substr(at), place, test.steps.back());
         }
-        if (!fault.empty()) {
-            test.fault = std::to_string(place) + ": " + fault;
+        if (!test.fault.empty()) {
+            test.fault = std::to_string(place) + ": " + test.fault;
         }
     }
     if (test.fault.empty() && std::none_of(test.steps.begin(), test.steps.end(), wantsAnything)) {
@@ -187,16 +204,32 @@ std::string localOutputDifference(std::string_view name, const std::vector<std::
         }
         return text.empty() ? std::string("    got:    no more output\n") : text;
     };
-    for (std::size_t i = 0; i < step.output.size(); ++i) {
-        const localWantedLine& wanted = step.output[i];
-        if (i >= lines.size() || !isWanted(wanted, lines[i])) {
-            return found(name, wanted.place, "output line " + std::to_string(i + 1)) +
-                   "    wanted: " + wanted.text + '\n' + rest(i);
+    const auto isMany = [](const localWantedLine& wanted) {
+        return wanted.form == localWantedForm::many;
+    };
+    const auto end = step.output.end();
+    std::size_t i = 0;
+    for (auto next = step.output.begin(); next != end; ++next) {
+        const auto firstOfMany = next;
+        next = std::find_if_not(next, end, isMany);
+        // The last lines are left for what is wanted behind the many.
+        const auto behind = static_cast<std::size_t>(end - next);
+        const auto isLine = [&](const localWantedLine& one) { return isWanted(one, lines[i]); };
+        while (i + behind < lines.size() && std::any_of(firstOfMany, next, isLine)) {
+            ++i;
         }
+        if (next == end) {
+            break;
+        }
+        if (i >= lines.size() || !isWanted(*next, lines[i])) {
+            return found(name, next->place, "output line " + std::to_string(i + 1)) +
+                   (next->isTrace ? "    trace:  " : "    wanted: ") + next->text + '\n' + rest(i);
+        }
+        ++i;
     }
-    if (lines.size() > step.output.size() && !step.status) {
+    if (i < lines.size()) {
         const std::size_t place = step.output.empty() ? step.place : step.output.back().place;
-        return found(name, place, "wanted no more output") + rest(step.output.size());
+        return found(name, place, "wanted no more output") + rest(i);
     }
     return {};
 }

@@ -4,12 +4,19 @@
 //
 //     ? 1+1;                // expect: 2
 //     // expect: TEXT       a line of output; trailing blanks do not count
-//     // expect match: TEXT the same, "*" standing for any run of characters
+//     // trace: TEXT        a line that ends in a trace tail, " file: X line: N"; TEXT ends in
+//                           " file: X", since N changes with every edit of X
+//     // expect match: TEXT, trace match: TEXT
+//                           the same, "*" standing for any run of characters
+//     // expect many: TEXT, trace many: TEXT
+//                           neighbours of this form are lines that come in any order and number
 //     a = b;                // expect status: 10
 //
-// A line of output that ends in a trace tail (" func: F file: X line: N") may be wanted without it.
-// All output must be wanted, except behind the last wanted line where a status is expected: there
-// stand the diagnostic lines of the fault.
+// Every line of the output must be wanted, the report of a fault as well as what statements print.
+//
+// Comments are text of the program, and a report quotes the text from the fault on: what is wanted
+// of a program that does not compile stands where the report does not reach it, below the line at
+// fault or, when the fault lies at the end of the text, above it.
 //
 // A file `*.prg` is a program. Without an expected status it must succeed with the value 1; 58 is
 // another value, 54 a failure that leaves no status. A file `*.lines` holds lines as typed at the
@@ -23,10 +30,13 @@
 #include <string_view>
 #include <vector>
 
+enum class localWantedForm { text, pattern, many };
+
 // One line of output that is wanted.
 struct localWantedLine {
     std::size_t place = 0;  // the line of the file, from 1
-    bool isPattern = false;
+    bool isTrace = false;   // ends in a trace tail; the text is without the source line's number
+    localWantedForm form = localWantedForm::text;
     std::string text;
 };
 

@@ -1,7 +1,7 @@
 // programs DIR [PART...]: acts on every program (*.prg) and every file of typed lines (*.lines)
 // below a folder, or on those whose path below it holds one of the parts, and compares with what
 // they say is wanted. Files in folders called `data` belong to other programs, and `runner` holds
-// this one.
+// this one. Reports name a file as a path that begins with the folder's own name.
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -51,7 +51,7 @@ int main(int argc, char* argv[]) {
     int passed = 0;
     int failed = 0;
     for (const std::string& name : testsBelow(folder, {argv + 2, argv + argc})) {
-        const std::string report = localTestRun(folder / name, name);
+        const std::string report = localTestRun(folder / name, folder.filename() / name);
         ++(report.empty() ? passed : failed);
         std::cout << report << std::flush;
     }

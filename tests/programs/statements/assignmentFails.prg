@@ -1,6 +1,6 @@
 a = 1;
 a = a+"b";              // expect status: 50
 // expect:
-// expect: >> A=a+"b";
-// expect: ERROR!!! Неверный тип операнда (-ов)!
-// expect: Неверный тип операнда (-ов)!
+// trace: >> A=a+"b";  func: execute file: localExecution.cpp
+// trace: ERROR!!! Неверный тип операнда (-ов)! func: execute file: localExecution.cpp
+// trace: Неверный тип операнда (-ов)! func: textExec file: localProgram.cpp

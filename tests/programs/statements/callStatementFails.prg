@@ -1,8 +1,8 @@
 nobody(1);              // expect status: 27
 // expect:
-// expect: >> nobody() in );
-// expect: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC.
+// trace: >> nobody() in ); func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: scanStringGetNameTokenAndEvaluete file: localScanner.cpp
 // expect:
-// expect: >> =nobody(1);
-// expect: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC.
-// expect: Метод не существует. Возможно в декларации класса для него не установлена функция EXEC.
+// trace: >> =nobody(1);  func: execute file: localExecution.cpp
+// trace: ERROR!!! Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: execute file: localExecution.cpp
+// trace: Метод не существует. Возможно в декларации класса для него не установлена функция EXEC. func: textExec file: localProgram.cpp

@@ -1,3 +1,3 @@
 FOR i=1 TO "3" DO ? i; ENDDO;           // expect status: 50
-// expect: ERROR!!!
-// expect: Неверный тип операнда (-ов)!
+// trace: ERROR!!! func: execute file: localExecution.cpp
+// trace: Неверный тип операнда (-ов)! func: textExec file: localProgram.cpp

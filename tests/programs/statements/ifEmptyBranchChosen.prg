@@ -1,4 +1,4 @@
 // A branch without statements fails when it is chosen, and leaves no status.
 ? "before";             // expect: before
 IF 1=1 THEN ELSE ? 1; ENDIF;            // expect status: 54
-// expect: Ок. Ошибки отсутствуют
+// trace: Ок. Ошибки отсутствуют func: textExec file: localProgram.cpp

@@ -1,4 +1,4 @@
 RETURN nobody;          // expect status: 10
-// expect match: localCompiledOperatorTypeRENURN with expression [(nobody)] file: localExecution.cpp line: *
-// expect: ERROR!!!
-// expect: Неверный атрибут.
+// trace: localCompiledOperatorTypeRENURN with expression [(nobody)] file: localExecution.cpp
+// trace: ERROR!!! func: execute file: localExecution.cpp
+// trace: Неверный атрибут. func: textExec file: localProgram.cpp

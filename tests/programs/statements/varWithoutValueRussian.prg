@@ -1,1 +1,6 @@
-ПЕРЕМЕННАЯ x;           // expect status: 37
+ПЕРЕМЕННАЯ x;
+// expect: ПЕРЕМЕННАЯ x;
+// expect: Синтаксическая ошибка.
+// trace: line: 1 pos: 12 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37

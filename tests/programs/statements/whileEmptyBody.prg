@@ -1,3 +1,3 @@
 // A body without statements fails like any empty block.
 WHILE 1 DO ENDDO;       // expect status: 54
-// expect: Ок. Ошибки отсутствуют
+// trace: Ок. Ошибки отсутствуют func: textExec file: localProgram.cpp

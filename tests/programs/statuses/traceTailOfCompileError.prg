@@ -1,6 +1,7 @@
-? ;                             // expect status: 37
-// expect match: ERROR!!! func: textCompile file: *.cpp line: *
-// expect: ? ;                             // expect status: 37
+? ;
+// trace: ERROR!!! func: textCompile file: localCompiler.cpp
+// expect: ? ;
 // expect: Синтаксическая ошибка.
-// expect match: line: 1 pos: 2 func: textExec file: *.cpp line: *
-// expect match: char: 59 func: textExec file: *.cpp line: *
+// trace: line: 1 pos: 2 func: textExec file: localProgram.cpp
+// trace: char: 59 func: textExec file: localProgram.cpp
+// expect status: 37
