@@ -3,14 +3,25 @@ set(KORVO_PROGRAM_FOLDER "${PROJECT_BINARY_DIR}/bin")
 # What a user starts, without the tests.
 add_custom_target(korvo_programs ALL)
 
-# korvo_program(NAME FOLDER folder [WINDOW] [READLINE] DEPENDS libs...)
+# korvo_exports(TARGET libs...): modules that the program loads find the libraries in it, with all
+# objects, be they in use by the program itself or not.
+function(korvo_exports target)
+    foreach(library IN LISTS ARGN)
+        target_sources(${target} PRIVATE $<TARGET_OBJECTS:${library}>)
+    endforeach()
+    set_target_properties(${target} PROPERTIES
+        ENABLE_EXPORTS ON WINDOWS_EXPORT_ALL_SYMBOLS ON)
+endfunction()
+
+# korvo_program(NAME FOLDER folder [WINDOW] [READLINE] [EXPORTS] DEPENDS libs...)
 #
 # A program made of FOLDER/*.cpp and the libraries it names; <build>/bin/NAME. It is absent as long
 # as its folder has no sources or none of its libraries is there.
 #   WINDOW    a Qt program without a terminal of its own
 #   READLINE  lines are typed with editing and history
+#   EXPORTS   modules can be loaded that use the libraries of the program
 function(korvo_program name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW;READLINE" "FOLDER" "DEPENDS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW;READLINE;EXPORTS" "FOLDER" "DEPENDS")
     if(arg_WINDOW AND NOT KORVO_WINDOWS)
         return()
     endif()
@@ -37,27 +48,48 @@ function(korvo_program name)
         target_include_directories(${name} SYSTEM PRIVATE "${READLINE_INCLUDE_DIR}")
         target_link_libraries(${name} PRIVATE "${READLINE_LIBRARY}")
     endif()
+    if(arg_EXPORTS)
+        korvo_exports(${name} ${libraries})
+    endif()
     korvo_lto_link(${name})
     add_dependencies(korvo_programs ${name})
     install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
-# korvo_module(NAME LIBRARY QT comps...)
+# korvo_module(NAME PROGRAM program SOURCE file [DEPENDS libs...] [QT comps...])
 #
-# A library of the house as a file beside the programs, which a program loads when it first needs it
-# and does without until then. Nothing but the library's own objects and Qt is in it.
-function(korvo_module name library)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "QT")
-    if(NOT TARGET ${library})
+# Libraries of the house as a file beside the program, which loads it when it first needs something
+# of theirs. The source holds the module's one function. In the file are the objects of the
+# libraries named and nothing of those below, which are the program's.
+function(korvo_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROGRAM;SOURCE" "DEPENDS;QT")
+    add_library(${name} MODULE "${arg_SOURCE}")
+    foreach(library IN LISTS arg_DEPENDS)
+        set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+        target_sources(${name} PRIVATE $<TARGET_OBJECTS:${library}>)
+    endforeach()
+    foreach(library IN ITEMS localInterpretatorUTF8 ${arg_DEPENDS})
+        target_include_directories(${name} PRIVATE
+            $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
+    list(TRANSFORM arg_QT PREPEND "Qt6::" OUTPUT_VARIABLE modules)
+    target_link_libraries(${name} PRIVATE korvo_flags ${arg_PROGRAM} ${modules})
+    get_target_property(folder ${arg_PROGRAM} RUNTIME_OUTPUT_DIRECTORY)
+    set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY "${folder}")
+    korvo_plain_link(${name})
+endfunction()
+
+# korvo_program_module(NAME PROGRAM program DEPENDS libs... [QT comps...])
+#
+# A module that belongs to what a user starts; its source is modules/NAME.cpp. It is absent where
+# one of its libraries is.
+function(korvo_program_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROGRAM" "DEPENDS;QT")
+    korvo_present(libraries ${arg_DEPENDS})
+    if(NOT libraries STREQUAL arg_DEPENDS OR NOT TARGET ${arg_PROGRAM})
         return()
     endif()
-    set_target_properties(${library} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    add_library(${name} MODULE $<TARGET_OBJECTS:${library}>)
-    list(TRANSFORM arg_QT PREPEND "Qt6::" OUTPUT_VARIABLE modules)
-    target_link_libraries(${name} PRIVATE korvo_flags ${modules})
-    set_target_properties(${name} PROPERTIES
-        PREFIX "" LINKER_LANGUAGE CXX LIBRARY_OUTPUT_DIRECTORY "${KORVO_PROGRAM_FOLDER}")
-    korvo_plain_link(${name})
+    korvo_module(${name} SOURCE "${PROJECT_SOURCE_DIR}/modules/${name}.cpp" ${ARGN})
     add_dependencies(korvo_programs ${name})
     install(TARGETS ${name} LIBRARY DESTINATION bin)
 endfunction()

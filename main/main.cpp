@@ -1,13 +1,30 @@
 // korvo: the language with a console window.
 #include "localConsole/console/qMain.h"
+#include "localConsole/help/localConsoleExtension.h"
 #include "localInterpretatorUTF8/host/localHost.h"
+#include "localPicture/color/localPictureExtension.h"
+#include "localPictureConverter/localPictureConverterExtension.h"
 #include "localVCL/host/localVclHost.h"
-#include "localVCL/library/localVclLibrary.h"
+#include "localVCL/library/localVclExtension.h"
+
+namespace {
+
+// What the program is made of above the language, lowest first.
+constexpr const localExtension* madeOf[] = {
+    &localPictureExtension,
+    &localPictureConverterExtension,
+    &localVclExtension,
+    &localConsoleExtension,
+};
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
+    for (const localExtension* const extension : madeOf) {
+        localExtensionAdd(*extension);
+    }
     localVclHost host;
     localHost::install(&host);
-    localVclLibraryInstall();
     const int result = qMain(argc, argv);
     localHost::install(nullptr);
     return result;

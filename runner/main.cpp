@@ -4,12 +4,19 @@
 
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
-#include "localPicture/picture/localPictureInstall.h"
+#include "localPicture/color/localPictureExtension.h"
+#include "localRunnerModules.h"
 #include "localRunnerOptions.h"
 #include "localRunnerPrograms.h"
 #include "localTypedLines.h"
 
 namespace {
+
+// What the program is made of above the language, lowest first; what needs the toolkit comes as
+// modules.
+constexpr const localExtension* madeOf[] = {
+    &localPictureExtension,
+};
 
 int act(const localRunnerOptions& options) {
     switch (options.action) {
@@ -40,7 +47,12 @@ int main(int argc, char* argv[]) {
     std::setlocale(LC_CTYPE, "");
     localStd::argv0Set(localPlatform::programPath(argv[0]));
     localStd::startDirectory();
-    localPictureInstall();
+    for (const localExtension* const extension : madeOf) {
+        localExtensionAdd(*extension);
+    }
+    for (const localModuleOffer& module : localRunnerModules()) {
+        localModuleAdd(module);
+    }
     localRunnerOptions options;
     if (!options.read(argc, argv)) {
         std::cerr << options.fault << std::endl;

@@ -9,7 +9,6 @@
 #include "console/localApplicationContext.h"
 #include "localConsole/console/localConsoleStart.h"
 #include "localConsole/console/localCoutBuffer.h"
-#include "localConsole/help/localConsoleLibrary.h"
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
@@ -80,7 +79,6 @@ int qMain(int argc, char* argv[]) {
     // The application takes the user's locale for everything; numbers of the language do not.
     std::setlocale(LC_NUMERIC, "C");
     setApplicationFont();
-    localConsoleLibraryInstall();
     localCoutBuffer buffer;
     std::streambuf* const before = std::cout.rdbuf();
     const int result = argc < batchArgumentCount ? runConsole(buffer) : runBatch(argv[1]);

@@ -158,7 +158,7 @@ void typeWhenShown() {
 int runKorvo(char* program[]) {
     consoleTest::recordingHost host;
     localHost::install(&host);
-    localVclLibraryInstall();
+    addWhatKorvoIsMadeOf();
     qAddPreRoutine([] { QTimer::singleShot(0, qApp, typeWhenShown); });
     return qMain(1, program);
 }

@@ -4,7 +4,6 @@
 #include <QTimer>
 
 #include "debugTest.h"
-#include "localConsole/help/localConsoleLibrary.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "windowTest.h"
 
@@ -331,7 +330,6 @@ private slots:
     }
     void windowsOfADebuggedProgramOpen() {
         QFETCH(QString, statement);
-        localConsoleLibraryInstall();
         const auto windows = [] {
             int count = 0;
             for (const QWidget* const widget : QApplication::topLevelWidgets()) {

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "consoleTest.h"
-#include "localConsole/help/localConsoleLibrary.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "manualExample.h"
 #include "manualPerson.h"
@@ -75,7 +74,6 @@ private slots:
 };
 
 manualExamples::manualExamples() {
-    localConsoleLibraryInstall();
     QDir(tools_.path()).mkdir("bin");
     qputenv("PATH", tools_.filePath("bin").toUtf8() + ":" + qgetenv("PATH"));
     qunsetenv("VISUAL");

@@ -8,13 +8,13 @@
 
 #include "browserTest.h"
 #include "localConsole/help/localConsoleHelpBrowser.h"
-#include "localConsole/help/localConsoleLibrary.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localVCL/host/localVclHost.h"
 #include "localVCL/textBrowser/localVclTextBrowser.h"
 #include "localVCL/window/localMainWindow.h"
+#include "madeOf.h"
 #include "screenshot.h"
 #include "windowTest.h"
 
@@ -57,7 +57,7 @@ private slots:
         std::setlocale(LC_NUMERIC, "C");
         QVERIFY(QDir::setCurrent(folder_.path()));
         localHost::install(&host_);
-        localConsoleLibraryInstall();
+        addWhatKorvoIsMadeOf();
     }
     void cleanup() { qDeleteAll(windows()); }
     void cleanupTestCase() { localHost::install(nullptr); }

@@ -15,9 +15,9 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/host/localVclHost.h"
-#include "localVCL/library/localVclLibrary.h"
 #include "localVCL/picture/localVclPicture.h"
 #include "localVCL/window/localMainWindow.h"
+#include "madeOf.h"
 #include "screenshot.h"
 #include "windowTest.h"
 
@@ -57,7 +57,7 @@ class vclFunctions : public QObject {
 private slots:
     void initTestCase() {
         localHost::install(&host_);
-        localVclLibraryInstall();
+        addWhatKorvoIsMadeOf();
     }
     void cleanupTestCase() { localHost::install(nullptr); }
 

@@ -9,8 +9,6 @@
 
 namespace {
 
-localValueTable::ShowFunction installedShow = nullptr;
-
 localValueTable& tableOf(const localCall& call) {
     return *static_cast<localValueTable*>(call.object);
 }
@@ -113,13 +111,6 @@ bool rowsCount(localCall& call) {
     return giveCount(call, tableOf(call).rowsCount());
 }
 
-bool show(localCall& call) {
-    if (installedShow == nullptr) {
-        return call.fail(localErrorTypeGRAPHICONLY);
-    }
-    return installedShow(call.status, tableOf(call)) && call.done();
-}
-
 bool sort(localCall& call) {
     return call.giveBoolean(tableOf(call).sort(call.text(0)));
 }
@@ -170,7 +161,7 @@ constexpr localMethodRow methods[] = {
     {u"ROWACTUALSET", u"РЯДТЕКУЩИЙУСТАНОВИТЬ", "n", rowActualSet},
     {u"ROWCHOOSE", u"РЯДВЫБРАТЬ", "ss", rowChoose},
     {u"ROWSCOUNT", u"РЯДЫКОЛИЧЕСТВО", "", rowsCount},
-    {u"SHOW", u"ПОКАЗАТЬ", "", show},
+    {u"SHOW", u"ПОКАЗАТЬ", "", localBroughtFromAbove},
     {u"SORT", u"СОРТИРОВАТЬ", "s", sort},
     {u"VALUEGET", u"ЗНАЧЕНИЕПОЛУЧИТЬ", "nv", valueGet},
     {u"VALUESET", u"ЗНАЧЕНИЕУСТАНОВИТЬ", "nvv", valueSet},
@@ -206,10 +197,6 @@ constexpr localClassTable table = {
 };
 
 }  // namespace
-
-void localValueTable::showInstall(ShowFunction show) {
-    installedShow = show;
-}
 
 localClassDeclaration* localValueTable::classDeclaration() {
     return localTableClass<table>();

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "context/localStartClasses.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
@@ -126,6 +127,7 @@ void localContextUTF8::dispFunc(std::u16string_view pattern) {
 }
 
 void localContextUTF8::dispClasses(std::u16string_view pattern) {
+    localStartClasses::bringAll();
     writeLine(u"СПИСОК КЛАССОВ " + withPattern(pattern));
     std::vector<std::u16string> lines;
     for (const localClassDeclaration* declaration : globalContext->classes()) {

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <ctime>
 
-#include "localInterpretatorUTF8/container/localValueList.h"
-#include "localInterpretatorUTF8/container/localValueTable.h"
+#include "context/localStartClasses.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localRandom.h"
@@ -15,20 +14,6 @@
 std::int64_t localContextUTF8::counterStaticTotal = 0;
 localContextUTF8* localContextUTF8::globalContext = nullptr;
 localContextUTF8* localContextUTF8::newestAlive_ = nullptr;
-
-namespace {
-
-std::vector<localClassSource>& startClasses() {
-    static std::vector<localClassSource> sources{localValueList::classDeclaration,
-                                                 localValueTable::classDeclaration};
-    return sources;
-}
-
-}  // namespace
-
-void localStartClassAdd(localClassSource source) {
-    startClasses().push_back(source);
-}
 
 localContextUTF8::localContextUTF8() {
     enter(globalContext);
@@ -225,14 +210,21 @@ bool localContextUTF8::funcExec(int& status, std::u16string_view name, const loc
     return run && statusAfterBody(status, statusOfCaller);
 }
 
-localClassDeclaration* localContextUTF8::classFind(std::u16string_view name) {
-    const localUpperName upper(name);
-    for (localClassDeclaration* declaration : globalContext->classes_) {
-        if (declaration->nameEng == upper.view() || declaration->nameRus == upper.view()) {
+localClassDeclaration* localContextUTF8::registeredFind(std::u16string_view upper) const {
+    for (localClassDeclaration* declaration : classes_) {
+        if (declaration->nameEng == upper || declaration->nameRus == upper) {
             return declaration;
         }
     }
     return nullptr;
+}
+
+localClassDeclaration* localContextUTF8::classFind(std::u16string_view name) {
+    const localUpperName upper(name);
+    localClassDeclaration* const found = globalContext->registeredFind(upper);
+    return found == nullptr && localStartClasses::bring(upper)
+               ? globalContext->registeredFind(upper)
+               : found;
 }
 
 bool localContextUTF8::classExists(std::u16string_view name) {
@@ -263,7 +255,8 @@ bool localContextUTF8::createObj(int& status, std::u16string_view className,
     result = localMemoryManager::manager->reserveSlot();
     localClassDeclaration* declaration = classFind(className);
     if (declaration == nullptr) {
-        status = localErrorTypeCLASSUNKNOWN;
+        status = localStartClasses::isLate(localUpperName(className)) ? localErrorTypeGRAPHICONLY
+                                                                      : localErrorTypeCLASSUNKNOWN;
         return false;
     }
     void* object = nullptr;
@@ -300,12 +293,7 @@ bool localContextUTF8::init(int& status) {
     classes_.clear();
     if (globalContext == this) {
         nativeFunctionsAdd();
-        for (const localClassSource source : startClasses()) {
-            localClassDeclaration* declaration = source();
-            if (!classExists(declaration->nameEng) && !classRegister(declaration)) {
-                traceLine(u"Class [" + declaration->nameEng + u"] registration fail! ", "init");
-            }
-        }
+        localStartClasses::registerIn(*this);
     }
     return true;
 }

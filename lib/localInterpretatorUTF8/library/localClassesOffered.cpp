@@ -1,38 +1,38 @@
 // The classes that CLASSLOAD can bring.
+#include <array>
 #include <string>
-#include <vector>
 
+#include "context/localStartClasses.h"
+#include "library/localFillable.h"
+#include "library/localModules.h"
 #include "localInterpretatorUTF8/classes/localClassForTest.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
-#include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace localLibrary {
 namespace {
 
-struct OfferedClass {
-    std::u16string nameEng;
-    std::u16string nameRus;
-    Declarations (*declare)();  // null: the class of a higher library that is not there
+struct OfferedClass : ClassNames {
+    localClassDeclarations (*declare)();  // null: the class of a higher library that is not there
 };
 
 template <class Native>
-Declarations classOf() {
+localClassDeclarations classOf() {
     static localClassDeclaration* const declarations[] = {Native::classDeclaration()};
     return declarations;
 }
 
-std::vector<OfferedClass>& offeredClasses() {
-    static std::vector<OfferedClass> classes{
-        {u"TEST", u"ТЕСТ", classOf<localClassForTest>},
-        {u"VALUELIST", u"СПИСОКЗНАЧЕНИЙ", classOf<localValueList>},
-        {u"VALUETABLE", u"ТАБЛИЦАЗНАЧЕНИЙ", classOf<localValueTable>},
-        {u"DATABASE", u"БАЗАДАННЫХ", nullptr},
-        {u"TABLEDOCUMENT", u"ТАБЛИЧНЫЙДОКУМЕНТ", nullptr},
-        {u"V77", u"V77", nullptr},
-    };
+std::array<OfferedClass, 6>& offeredClasses() {
+    static std::array<OfferedClass, 6> classes{{
+        {{u"TEST", u"ТЕСТ"}, classOf<localClassForTest>},
+        {{u"VALUELIST", u"СПИСОКЗНАЧЕНИЙ"}, classOf<localValueList>},
+        {{u"VALUETABLE", u"ТАБЛИЦАЗНАЧЕНИЙ"}, classOf<localValueTable>},
+        {{u"DATABASE", u"БАЗАДАННЫХ"}, nullptr},
+        {{u"TABLEDOCUMENT", u"ТАБЛИЧНЫЙДОКУМЕНТ"}, nullptr},
+        {{u"V77", u"V77"}, nullptr},
+    }};
     return classes;
 }
 
@@ -45,15 +45,42 @@ OfferedClass* offeredFind(std::u16string_view upper) {
     return nullptr;
 }
 
+localClassDeclaration* declaredBy(const OfferedClass& offered, std::u16string_view nameEng) {
+    if (offered.declare != nullptr) {
+        for (localClassDeclaration* declaration : offered.declare()) {
+            if (declaration->nameEng == nameEng) {
+                return declaration;
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
-void offerClass(std::u16string_view nameEng, std::u16string_view nameRus,
-                Declarations (*declare)()) {
-    if (OfferedClass* offered = offeredFind(nameEng)) {
-        offered->declare = declare;
-    } else {
-        offeredClasses().push_back({std::u16string(nameEng), std::u16string(nameRus), declare});
+const ClassNames* classNames(std::u16string_view upper) {
+    return offeredFind(upper);
+}
+
+bool classFill(std::u16string_view nameEng, localClassDeclarations (*declare)()) {
+    OfferedClass* const offered = offeredFind(nameEng);
+    if (offered == nullptr || offered->nameEng != nameEng) {
+        return false;
     }
+    offered->declare = declare;
+    return true;
+}
+
+localClassDeclaration* classDeclared(std::u16string_view nameEng) {
+    if (const OfferedClass* const offered = offeredFind(nameEng)) {
+        return declaredBy(*offered, nameEng);
+    }
+    for (const OfferedClass& offered : offeredClasses()) {
+        if (localClassDeclaration* const declaration = declaredBy(offered, nameEng)) {
+            return declaration;
+        }
+    }
+    return nullptr;
 }
 
 bool classLoad(int& status, localContextUTF8& context, std::u16string_view name) {
@@ -67,17 +94,13 @@ bool classLoad(int& status, localContextUTF8& context, std::u16string_view name)
         return false;
     }
     if (offered->declare == nullptr) {
+        localModules::bringClass(offered->nameEng);
+    }
+    if (offered->declare == nullptr) {
         status = localErrorTypeGRAPHICONLY;
         return false;
     }
-    bool registered = true;
-    for (localClassDeclaration* declaration : offered->declare()) {
-        if (!context.classRegister(declaration)) {
-            traceLine(u"Class [" + declaration->nameEng + u"] registration fail! ", "classLoad");
-            registered = false;
-        }
-    }
-    return registered;
+    return localStartClasses::registerAll(context, offered->declare(), "classLoad");
 }
 
 }  // namespace localLibrary

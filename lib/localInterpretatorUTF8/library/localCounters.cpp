@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "library/localFillable.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -29,10 +30,12 @@ std::span<const localCounter> localCounters() {
     return table();
 }
 
-void localCounterInstall(std::string_view name, const std::int64_t* total) {
+bool localLibrary::counterFill(const localCounter& brought) {
     for (localCounter& counter : table()) {
-        if (counter.name == name) {
-            counter.total = total;
+        if (counter.name == brought.name) {
+            counter.total = brought.total;
+            return true;
         }
     }
+    return false;
 }

@@ -2,6 +2,7 @@
 #include <new>
 #include <stdexcept>
 
+#include "library/localFillable.h"
 #include "library/localHandlers.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/text/localString.h"
@@ -15,11 +16,6 @@ using namespace localHandlers;
 
 // A row that nobody has given a function: its name is known, calling it answers status 27.
 constexpr localHandler nothing = nullptr;
-
-// Stands in the table where a higher library brings the function.
-bool higherLibrary(localCall& call) {
-    return call.fail(localErrorTypeGRAPHICONLY);
-}
 
 constexpr std::array table = std::to_array<localMethodRow>({
     // Strings
@@ -75,7 +71,7 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"MESSAGE", u"СООБЩИТЬ", "v", message},
     {u"MESSAGEBOX", u"ПРЕДУПРЕЖДЕНИЕ", "s|n", messageBox},
     {u"MODULELOAD", u"МОДУЛЬЗАГРУЗИТЬ", "s", moduleLoad},
-    {u"NETWORKREQUESTEXECSYNC", u"СЕТЬЗАПРОСВЫПОЛНИТЬСИНХРОННО", "ss|v", higherLibrary},
+    {u"NETWORKREQUESTEXECSYNC", u"СЕТЬЗАПРОСВЫПОЛНИТЬСИНХРОННО", "ss|v", localBroughtFromAbove},
     {u"PATHEXIST", u"ПУТЬСУЩЕСТВУЕТ", "s", pathExist},
     {u"SECONDS20000101", u"", "", seconds20000101},
     {u"SECONDSTHISPROCESS", u"", "", secondsThisProcess},
@@ -87,18 +83,18 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"CLASSESDISPLAY", u"КЛАССЫПОКАЗАТЬ", "|s", classesDisplay},
     {u"CLASSLOAD", u"КЛАССЗАГРУЗИТЬ", "s", localHandlers::classLoad},
     {u"CLASSLOADED", u"КЛАССЗАГРУЖЕН", "s", classLoaded},
-    {u"COLOR", u"ЦВЕТ", "s", higherLibrary},
+    {u"COLOR", u"ЦВЕТ", "s", localBroughtFromAbove},
     {u"CONTEXTGET", u"КОНТЕКСТПОЛУЧИТЬ", "", contextGet},
     {u"CREATEOBJECT", u"СОЗДАТЬОБЪЕКТ", "s", createObject},
-    {u"FORMEDIT", u"ФОРМАРЕДАКТИРОВАТЬ", "s", higherLibrary},
-    {u"FORMOPEN", u"ФОРМАОТКРЫТЬ", "s|v", higherLibrary},
+    {u"FORMEDIT", u"ФОРМАРЕДАКТИРОВАТЬ", "s", localBroughtFromAbove},
+    {u"FORMOPEN", u"ФОРМАОТКРЫТЬ", "s|v", localBroughtFromAbove},
     {u"FUNCTIONSDISPLAY", u"ФУНКЦИИПОКАЗАТЬ", "|s", functionsDisplay},
     {u"MEMORYDISPLAY", u"ПАМЯТЬПОКАЗАТЬ", "", memoryDisplay},
     {u"MEMORYDISPLAYDATA", u"ПАМЯТЬПОКАЗАТЬДАННЫЕ", "|n", memoryDisplayData},
     {u"MEMORYDISPLAYVARS", u"ПАМЯТЬПОКАЗАТЬПЕРЕМЕННЫЕ", "|sn", memoryDisplayVars},
-    {u"PIXMAPASBASE64FROMFILEGET", u"", "s", higherLibrary},
-    {u"PIXMAPASBASE64PARTGET", u"", "snn|nn", higherLibrary},
-    {u"PIXMAPASBASE64SHOW", u"", "s", higherLibrary},
+    {u"PIXMAPASBASE64FROMFILEGET", u"", "s", localBroughtFromAbove},
+    {u"PIXMAPASBASE64PARTGET", u"", "snn|nn", localBroughtFromAbove},
+    {u"PIXMAPASBASE64SHOW", u"", "s", localBroughtFromAbove},
     // Developer entries
     {u"___TEST", u"", "|s", test},
     {u"___TEST__TEXTBROWSER", u"", "o", testTextBrowser},
@@ -111,21 +107,6 @@ constexpr std::array table = std::to_array<localMethodRow>({
 });
 
 constexpr std::size_t rowsWithoutMember = 2;
-
-std::array<localHandler, table.size()>& installed() {
-    static std::array<localHandler, table.size()> handlers{};
-    return handlers;
-}
-
-const localMethodRow* rowFind(std::u16string_view name) {
-    static const localNameTable<const localMethodRow*> index = localMethodRowIndex(table);
-    const auto* found = index.find(name);
-    return found == nullptr ? nullptr : *found;
-}
-
-std::size_t placeOf(const localMethodRow* row) {
-    return static_cast<std::size_t>(row - table.data());
-}
 
 // A text or list that the memory cannot hold ends the call, not the process.
 bool outOfMemory(int& status, std::u16string_view function) {
@@ -140,6 +121,11 @@ std::span<const localMethodRow> rows() {
     return std::span(table).first(table.size() - rowsWithoutMember);
 }
 
+localMethodRows& functionRows() {
+    static localMethodRows all(table);
+    return all;
+}
+
 bool call(int& status, localContextUTF8* context, std::u16string_view name,
           const localArguments* args, localValueDescription*& result) {
     result = localMemoryManager::manager->reserveSlot();
@@ -147,28 +133,21 @@ bool call(int& status, localContextUTF8* context, std::u16string_view name,
         status = localErrorTypeCODE;
         return false;
     }
-    const localMethodRow* row = rowFind(name);
-    if (row == nullptr || row->handler == nothing) {
+    const localMethodRows::Entry* entry = functionRows().find(name);
+    if (entry == nullptr || entry->handler == nothing) {
         status = localErrorTypeMETHODUNKNOWN;
         return false;
     }
-    if (!localArgumentsCheck(status, row->arguments, *args)) {
+    if (!localArgumentsCheck(status, entry->row->arguments, *args)) {
         return false;
     }
-    const localHandler higher = installed()[placeOf(row)];
     localCall callFacts{status, context, context, name, *args, *result};
     try {
-        return (higher != nullptr ? higher : row->handler)(callFacts);
+        return entry->handler(callFacts);
     } catch (const std::bad_alloc&) {
-        return outOfMemory(status, row->english);
+        return outOfMemory(status, entry->row->english);
     } catch (const std::length_error&) {
-        return outOfMemory(status, row->english);
-    }
-}
-
-void install(std::u16string_view english, localHandler handler) {
-    if (const localMethodRow* row = rowFind(english)) {
-        installed()[placeOf(row)] = handler;
+        return outOfMemory(status, entry->row->english);
     }
 }
 

@@ -275,16 +275,22 @@ bool startEditor(std::u16string_view fileName) {
     return startDetached(arguments);
 }
 
-LibraryFunction loadLibraryFunction(std::u16string_view name, const char* function) {
+LibraryFunction loadLibraryFunction(std::u16string_view name, const char* function,
+                                    std::string& fault) {
     std::string path;
-    if (!systemPath(name, path)) {
+    if (!systemPath(std::u16string(name) + u".so", path) || access(path.c_str(), F_OK) != 0) {
         return nullptr;
     }
     // A path without a separator would be looked up among the system's libraries.
-    path = (path.find('/') == std::string::npos ? "./" : "") + path + ".so";
+    if (path.find('/') == std::string::npos) {
+        path.insert(0, "./");
+    }
     void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    return library == nullptr ? nullptr
-                              : reinterpret_cast<LibraryFunction>(dlsym(library, function));
+    void* const found = library == nullptr ? nullptr : dlsym(library, function);
+    if (found == nullptr) {
+        fault = dlerror();
+    }
+    return reinterpret_cast<LibraryFunction>(found);
 }
 
 }  // namespace localPlatform

@@ -137,10 +137,16 @@ bool startEditor(std::u16string_view fileName) {
                            .c_str()) == 0;
 }
 
-LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name) {
-    const HMODULE library = LoadLibraryA((systemPath(path) + ".dll").c_str());
-    return library == nullptr ? nullptr
-                              : reinterpret_cast<LibraryFunction>(GetProcAddress(library, name));
+LibraryFunction loadLibraryFunction(std::u16string_view name, const char* function,
+                                    std::string& fault) {
+    const std::string path = systemPath(name) + ".dll";
+    const HMODULE library = LoadLibraryA(path.c_str());
+    const FARPROC found = library == nullptr ? nullptr : GetProcAddress(library, function);
+    const DWORD reason = GetLastError();
+    if (found == nullptr && _access(path.c_str(), 0) == 0) {
+        fault = "error " + std::to_string(reason);
+    }
+    return reinterpret_cast<LibraryFunction>(found);
 }
 
 }  // namespace localPlatform

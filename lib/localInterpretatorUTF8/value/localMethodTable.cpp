@@ -53,8 +53,7 @@ std::uint32_t localIndex(double value) {
     return value >= 1.0 && value < 4294967295.0 ? static_cast<std::uint32_t>(value) : 0;
 }
 
-bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration,
-                      const localNameTable<const localMethodRow*>& rows, int& status,
+bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration, int& status,
                       localContextUTF8* context, void*& object, std::u16string_view name,
                       const localArguments* args, localValueDescription*& result) {
     if (result != nullptr) {
@@ -84,27 +83,42 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
         status = localErrorTypeCODE;
         return false;
     }
-    const auto* row = rows.find(name);
-    if (row == nullptr) {
+    const localMethodRows::Entry* entry = declaration->methodRows->find(name);
+    if (entry == nullptr) {
         status = localErrorTypeMETHODUNKNOWN;
         return false;
     }
-    if (!localArgumentsCheck(status, (*row)->arguments, *args)) {
+    if (!localArgumentsCheck(status, entry->row->arguments, *args)) {
         return false;
     }
     localCall call{status, context, object, name, *args, *result};
-    return (*row)->handler(call);
+    return entry->handler(call);
 }
 
-localNameTable<const localMethodRow*> localMethodRowIndex(std::span<const localMethodRow> rows) {
-    localNameTable<const localMethodRow*> index;
+bool localBroughtFromAbove(localCall& call) {
+    return call.fail(localErrorTypeGRAPHICONLY);
+}
+
+localMethodRows::localMethodRows(std::span<const localMethodRow> rows) {
     for (const localMethodRow& row : rows) {
-        index.put(row.english, &row);
-        if (!row.russian.empty()) {
-            index.put(row.russian, &row);
-        }
+        put({&row, row.handler});
     }
-    return index;
+}
+
+void localMethodRows::put(const Entry& entry) {
+    index_.put(entry.row->english, entry);
+    if (!entry.row->russian.empty()) {
+        index_.put(entry.row->russian, entry);
+    }
+}
+
+bool localMethodRows::fill(std::u16string_view english, localHandler handler) {
+    const Entry* const entry = find(english);
+    if (entry == nullptr || entry->row->english != english) {
+        return false;
+    }
+    put({entry->row, handler});
+    return true;
 }
 
 void localDeclareFromTable(localClassDeclaration& declaration, const localClassTable& table,

@@ -19,9 +19,9 @@
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 #include "localVCL/host/localVclHost.h"
-#include "localVCL/library/localVclLibrary.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localMainWindow.h"
+#include "madeOf.h"
 #include "support/recordingHost.h"
 #include "testFiles.h"
 
@@ -122,7 +122,7 @@ private slots:
     void initTestCase() {
         std::setlocale(LC_NUMERIC, "C");
         localMemoryManager::start();
-        localVclLibraryInstall();
+        addWhatKorvoIsMadeOf();
         QVERIFY(QDir::setCurrent(folder_.path()));
         localStd::startDirectory();
     }

@@ -1,5 +1,6 @@
 // The class VALUETABLE as native code and the surroundings see it.
 #include "container/containers.h"
+#include "localInterpretatorUTF8/library/localExtension.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/value/localCounters.h"
 
@@ -12,8 +13,12 @@ protected:
         dialogs.screen = true;
     }
     void TearDown() override {
-        localValueTable::showInstall(nullptr);
+        fillShow(localBroughtFromAbove);
         containerTest::TearDown();
+    }
+    static void fillShow(localHandler handler) {
+        const localExtensionMethod methods[] = {{u"VALUETABLE", u"SHOW", handler}};
+        localExtensionAdd({.name = u"test", .methods = methods});
     }
     localValueTable& table() { return *localValueTable::of(cell); }
     // Two columns A and B, two rows.
@@ -192,22 +197,22 @@ TEST_F(localValueTableClassTest, choosesNothingByAColumnThatIsNotThereOrWithNobo
     EXPECT_EQ(call(cell, u"ROWCHOOSE", {&column, &title}).status, localErrorTypeGRAPHICONLY);
 }
 
-TEST_F(localValueTableClassTest, showIsWhatAHigherLibraryInstalls) {
+TEST_F(localValueTableClassTest, showIsWhatALibraryAboveFillsIn) {
     EXPECT_EQ(call(cell, u"SHOW").status, localErrorTypeGRAPHICONLY);
-    static localValueTable* shown;
+    static void* shown;
     shown = nullptr;
-    localValueTable::showInstall([](int&, localValueTable& shownTable) {
-        shown = &shownTable;
-        return true;
+    fillShow([](localCall& facts) {
+        shown = facts.object;
+        return facts.done();
     });
+    localValueDescription wrong = cellOf(1.0);
+    EXPECT_EQ(call(cell, u"SHOW", {&wrong}).status, localErrorTypePARAMETERCOUNT);
+    EXPECT_EQ(shown, nullptr);
     const called outcome = call(cell, u"ПОКАЗАТЬ");
     EXPECT_TRUE(outcome.done);
     EXPECT_EQ(outcome.text, "1");
     EXPECT_EQ(shown, &table());
-    localValueTable::showInstall([](int& status, localValueTable&) {
-        status = localErrorTypeFILENOTFOUND;
-        return false;
-    });
+    fillShow([](localCall& facts) { return facts.fail(localErrorTypeFILENOTFOUND); });
     EXPECT_EQ(call(cell, u"SHOW").status, localErrorTypeFILENOTFOUND);
 }
 

@@ -35,10 +35,10 @@ protected:
     template <class... Values>
     libraryOutcome call(std::u16string_view name, const Values&... values) {
         localContextUTF8 context;
-        std::vector<localSlot> slots;
-        (slots.push_back(argument(values)), ...);
+        std::vector<localSlot> held;
+        (held.push_back(argument(values)), ...);
         std::vector<localValueDescription*> pointers;
-        for (const localSlot& slot : slots) {
+        for (const localSlot& slot : held) {
             pointers.push_back(slot.get());
         }
         const localArguments args(pointers);

@@ -5,10 +5,17 @@
 #include <stdexcept>
 
 #include "library/libraryCall.h"
+#include "localInterpretatorUTF8/library/localExtension.h"
 
 namespace {
 
-using libraryTableTest = libraryTest;
+class libraryTableTest : public libraryTest {
+protected:
+    static void fill(std::u16string_view english, localHandler handler) {
+        const localExtensionFunction functions[] = {{english, handler}};
+        localExtensionAdd({.name = u"test", .functions = functions});
+    }
+};
 
 TEST_F(libraryTableTest, hasEveryNameOnce) {
     std::set<std::u16string_view> names;
@@ -64,38 +71,28 @@ TEST_F(libraryTableTest, anUnknownNameKeepsTheResultReserved) {
     EXPECT_TRUE(outcome.result);
 }
 
-// Gives a row a handler for the length of a test.
-class installedHandler {
-public:
-    installedHandler(std::u16string_view name, localHandler handler) : name_(name) {
-        localLibrary::install(name_, handler);
-    }
-    ~installedHandler() { localLibrary::install(name_, nullptr); }
-    installedHandler(const installedHandler&) = delete;
-    installedHandler& operator=(const installedHandler&) = delete;
-
-private:
-    std::u16string_view name_;
-};
-
+// Filled rows stay filled, so these run in processes of their own.
 TEST_F(libraryTableTest, aHigherLibraryBringsItsFunction) {
     EXPECT_EQ(call(u"COLOR", u"red").status, localErrorTypeGRAPHICONLY);
-    const installedHandler color(u"COLOR", [](localCall& facts) { return facts.give(42.0); });
-    const libraryOutcome outcome = call(u"ЦВЕТ", u"red");
-    EXPECT_TRUE(outcome.done);
-    EXPECT_EQ(outcome.result->num, 42.0);
+    EXPECT_IN_FRESH_PROCESS({
+        fill(u"COLOR", [](localCall& facts) { return facts.give(42.0); });
+        const libraryOutcome outcome = call(u"ЦВЕТ", u"red");
+        EXPECT_TRUE(outcome.done);
+        EXPECT_EQ(outcome.result->num, 42.0);
+    });
 }
 
 TEST_F(libraryTableTest, memoryThatRunsOutEndsTheCallOnly) {
-    const installedHandler color(u"COLOR", [](localCall&) -> bool { throw std::bad_alloc(); });
-    EXPECT_EQ(call(u"COLOR", u"red").status, localErrorTypeCODE);
-    const installedHandler edit(u"FORMEDIT",
-                                [](localCall&) -> bool { throw std::length_error("too long"); });
-    const libraryOutcome outcome = call(u"FORMEDIT", u"form");
-    EXPECT_FALSE(outcome.done);
-    EXPECT_EQ(outcome.status, localErrorTypeCODE);
-    EXPECT_THAT(output.lines(),
-                testing::ElementsAre("Недостаточно памяти!", "Недостаточно памяти!"));
+    EXPECT_IN_FRESH_PROCESS({
+        fill(u"COLOR", [](localCall&) -> bool { throw std::bad_alloc(); });
+        EXPECT_EQ(call(u"COLOR", u"red").status, localErrorTypeCODE);
+        fill(u"FORMEDIT", [](localCall&) -> bool { throw std::length_error("too long"); });
+        const libraryOutcome outcome = call(u"FORMEDIT", u"form");
+        EXPECT_FALSE(outcome.done);
+        EXPECT_EQ(outcome.status, localErrorTypeCODE);
+        EXPECT_THAT(output.lines(),
+                    testing::ElementsAre("Недостаточно памяти!", "Недостаточно памяти!"));
+    });
 }
 
 }  // namespace

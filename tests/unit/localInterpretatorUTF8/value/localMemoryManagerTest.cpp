@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "localInterpretatorUTF8/file/localFile.h"
+#include "localInterpretatorUTF8/library/localExtension.h"
 #include "localInterpretatorUTF8/value/localCounters.h"
 #include "support/countedClass.h"
 #include "support/language.h"
@@ -209,12 +210,13 @@ TEST_F(storeTest, higherLibrariesPutTheirCountersIn) {
     static std::int64_t records = 0;
     records = 41;
     const std::int64_t* const before = localCounters()[7].total;
-    localCounterInstall("localDataBaseRecord::counterStaticTotal", &records);
+    localCounter brought[] = {{"localDataBaseRecord::counterStaticTotal", &records}};
+    localExtensionAdd({.name = u"test", .counters = brought});
     EXPECT_EQ(listingLines()[10], "localDataBaseRecord::counterStaticTotal 41");
     ++records;
     EXPECT_EQ(listingLines()[10], "localDataBaseRecord::counterStaticTotal 42");
-    localCounterInstall("localDataBaseRecord::counterStaticTotal", before);
-    localCounterInstall("unknown::counterStaticTotal", &records);
+    brought[0].total = before;
+    localExtensionAdd({.name = u"test", .counters = brought});
     EXPECT_EQ(listingLines().size(), 13U);
 }
 

@@ -27,11 +27,6 @@ public:
     // The table that a value holds, null when it holds none. The value keeps its link.
     static localValueTable* of(const localValueDescription& value);
 
-    // Shows a table in a window of its own and may set a status. A higher library brings it;
-    // without one SHOW answers status 26.
-    using ShowFunction = bool (*)(int& status, localValueTable& table);
-    static void showInstall(ShowFunction show);
-
     localValueTable() { ++counterStaticTotal; }
     ~localValueTable() { --counterStaticTotal; }
     localValueTable(const localValueTable&) = delete;

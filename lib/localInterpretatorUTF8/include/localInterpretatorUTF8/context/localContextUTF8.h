@@ -126,15 +126,16 @@ public:
     // Classes, kept by the global context
     // -------------------------------------------------------------
 
-    // The first class with that English or Russian name. Null when there is none.
+    // The first class with that English or Russian name. Null when there is none. One that belongs
+    // there from the start but comes with a library at first use is brought now.
     localClassDeclaration* classFind(std::u16string_view name);
     // As classFind for a name that may have blanks in front; an empty name gives false.
     bool classExists(std::u16string_view name);
     // True when the class is registered now or was before; false when another holds one of its
     // names.
     bool classRegister(localClassDeclaration* declaration);
-    // A new object of a class. Halts on a non-null `result`. Statuses 14, 11 and what the class
-    // sets.
+    // A new object of a class. Halts on a non-null `result`. Statuses 14, 26 for one whose library
+    // cannot come, 11 and what the class sets.
     bool createObj(int& status, std::u16string_view className, localValueDescription*& result);
     const std::vector<localClassDeclaration*>& classes() const { return classes_; }
 
@@ -156,6 +157,7 @@ private:
     bool valueOfUpperName(int& status, std::u16string_view name, const localUpperName& upper,
                           localValueDescription& value);
     void enter(localContextUTF8* parentContext);
+    localClassDeclaration* registeredFind(std::u16string_view upper) const;
     void nativeFunctionsAdd();
 
     localContextUTF8* parent_ = nullptr;
@@ -173,9 +175,3 @@ private:
 // The pattern rule of listings: "?" is any unit, "*" means the rest matches, an empty pattern
 // matches all. Both sides are compared in capitals unless `caseSensitive`.
 bool namePatternMatches(std::u16string_view pattern, std::u16string_view name, bool caseSensitive);
-
-// Where one of the classes that every program has from the start comes from.
-using localClassSource = localClassDeclaration* (*)();
-// Adds a class of a higher library to those that a new global context registers by itself, which
-// are the value list and the value table at first.
-void localStartClassAdd(localClassSource source);

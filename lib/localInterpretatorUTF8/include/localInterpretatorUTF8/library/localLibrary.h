@@ -1,8 +1,8 @@
 // The global functions of the language: one table of all names, a row each.
 //
-// A row whose work lives in a higher library has no handler until that library installs one at
-// start; until then a call answers status 26, "graphic version only". Classes that CLASSLOAD can
-// bring are offered in the same way.
+// A row whose work lives in a higher library is filled by that library (localExtension.h); until
+// then a call answers status 26, "graphic version only". So it is with the classes that CLASSLOAD
+// can bring.
 #pragma once
 
 #include <span>
@@ -20,15 +20,6 @@ std::span<const localMethodRow> rows();
 // 31, 33 and what the function sets.
 bool call(int& status, localContextUTF8* context, std::u16string_view name,
           const localArguments* args, localValueDescription*& result);
-
-// Gives a row of a higher library its handler. The name is the English one of a row.
-void install(std::u16string_view english, localHandler handler);
-
-// Offers a class to CLASSLOAD under its two names. `declare` gives the declarations to register,
-// several where classes come together.
-using Declarations = std::span<localClassDeclaration* const>;
-void offerClass(std::u16string_view nameEng, std::u16string_view nameRus,
-                Declarations (*declare)());
 
 // What CLASSLOAD does: true when the class is registered afterwards. Status 14 for a name that
 // nobody offers, 26 for a class of a library that is not there.

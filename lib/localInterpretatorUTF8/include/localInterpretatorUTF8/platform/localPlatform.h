@@ -64,9 +64,10 @@ bool startProgram(std::u16string_view commandLine);
 bool startEditor(std::u16string_view fileName);
 
 // A function of a library in a file, whose path is given without the system's ending for such
-// files. The library stays loaded until the process ends. Null when there is no such library or
-// function.
+// files. The library stays loaded until the process ends. Null when there is no such file, no such
+// function or the file is no library of this system; `fault` then tells why, in UTF-8, unless there
+// is no file.
 using LibraryFunction = void (*)();
-LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name);
+LibraryFunction loadLibraryFunction(std::u16string_view path, const char* name, std::string& fault);
 
 }  // namespace localPlatform

@@ -16,20 +16,22 @@ template <class Value>
 class localNameTable {
 public:
     void put(std::u16string_view name, std::uint32_t hash, Value value) {
+        if (!cells_.empty()) {
+            Cell& cell = cells_[place(cells_, name, hash)];
+            if (cell.used) {
+                cell.value = value;
+                return;
+            }
+        }
         if ((count_ + 1) * 2 > cells_.size()) {
             widen();
         }
-        Cell& cell = cells_[place(cells_, name, hash)];
-        if (!cell.used) {
-            cell = {name, hash, true, value};
-            ++count_;
-        } else {
-            cell.value = value;
-        }
+        cells_[place(cells_, name, hash)] = {name, hash, true, value};
+        ++count_;
     }
     void put(std::u16string_view name, Value value) { put(name, nameHash(name), value); }
 
-    // The value under the name, or null. The pointer holds until the next put().
+    // The value under the name, or null. The pointer holds until another name is put in.
     const Value* find(std::u16string_view name, std::uint32_t hash) const {
         if (cells_.empty()) {
             return nullptr;

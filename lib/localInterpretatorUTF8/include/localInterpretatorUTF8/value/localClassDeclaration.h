@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,8 @@ using localAttribGetFunction = bool (*)(int& status, localContextUTF8* context, 
 using localAttribSetFunction = bool (*)(int& status, localContextUTF8* context, void*& object,
                                         std::u16string_view name,
                                         const localValueDescription* newValue);
+
+class localMethodRows;
 
 struct localClassMember {
     std::u16string name;  // upper case; empty names the constructor, "~" the destructor
@@ -56,6 +59,8 @@ public:
     localLinkFunction classImplementationLinkFunction = nullptr;  // null: objects are not counted
     localMethodFunction classImplementationMethodFunction = nullptr;  // for names without a member
     localAttribGetFunction classImplementationAttribGetFunction = nullptr;
+    // The rows of a class that is a table, null for any other. They live to the end of the process.
+    localMethodRows* methodRows = nullptr;
 
     // Members in order of registration, owned here.
     void memberAdd(localClassMember member);
@@ -94,3 +99,6 @@ private:
     std::vector<std::unique_ptr<localClassMember>> members_;
     localNameTable<const localClassMember*> index_;
 };
+
+// Classes that come together.
+using localClassDeclarations = std::span<localClassDeclaration* const>;

@@ -1,6 +1,6 @@
 // The live counters that the memory listing prints, one line each, in a fixed order. A class that
-// lives in a higher library hands its counter in when it is first used; until then its line shows
-// 0.
+// lives in a higher library brings its counter with that library (localExtension.h); until then its
+// line shows 0.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +14,3 @@ struct localCounter {
 
 // All counters in the order of the listing.
 std::span<const localCounter> localCounters();
-
-// Puts the counter of a class of a higher library in its line. The name is one of localCounters().
-void localCounterInstall(std::string_view name, const std::int64_t* total);

@@ -59,6 +59,32 @@ struct localMethodRow {
     localHandler handler;
 };
 
+// Stands in a row whose work lives in a library above, until that library fills the row: status 26.
+bool localBroughtFromAbove(localCall& call);
+
+// The rows of a table by name, each with the handler in force beside it: the table's own, until a
+// library above fills the row with another.
+class localMethodRows {
+public:
+    struct Entry {
+        const localMethodRow* row = nullptr;
+        localHandler handler = nullptr;
+    };
+
+    explicit localMethodRows(std::span<const localMethodRow> rows);
+
+    // The row of a name in capitals, in either language; null when there is none. It holds for
+    // good.
+    const Entry* find(std::u16string_view name) const { return index_.find(name); }
+    // False when there is no row of that English name.
+    bool fill(std::u16string_view english, localHandler handler);
+
+private:
+    void put(const Entry& entry);
+
+    localNameTable<Entry> index_;
+};
+
 struct localAttributeRow {
     std::u16string_view name;
     localAttribGetFunction get;
@@ -91,12 +117,9 @@ struct localClassTable {
 };
 
 // The method function of every class that is a table: the constructor, "~", then the rows.
-bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration,
-                      const localNameTable<const localMethodRow*>& rows, int& status,
+bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration, int& status,
                       localContextUTF8* context, void*& object, std::u16string_view name,
                       const localArguments* args, localValueDescription*& result);
-
-localNameTable<const localMethodRow*> localMethodRowIndex(std::span<const localMethodRow> rows);
 
 // Fills a declaration from its table.
 void localDeclareFromTable(localClassDeclaration& declaration, const localClassTable& table,
@@ -106,15 +129,16 @@ void localDeclareFromTable(localClassDeclaration& declaration, const localClassT
 template <const localClassTable& table>
 localClassDeclaration* localTableClass() {
     static localClassDeclaration* const declaration = [] {
+        static localMethodRows rows(table.methods);
         auto* made = new localClassDeclaration;
-        localDeclareFromTable(
-            *made, table,
-            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
-               const localArguments* args, localValueDescription*& result) {
-                static const auto rows = localMethodRowIndex(table.methods);
-                return localTableMethod(table, localTableClass<table>(), rows, status, context,
-                                        object, name, args, result);
-            });
+        made->methodRows = &rows;
+        localDeclareFromTable(*made, table,
+                              [](int& status, localContextUTF8* context, void*& object,
+                                 std::u16string_view name, const localArguments* args,
+                                 localValueDescription*& result) {
+                                  return localTableMethod(table, localTableClass<table>(), status,
+                                                          context, object, name, args, result);
+                              });
         return made;
     }();
     return declaration;

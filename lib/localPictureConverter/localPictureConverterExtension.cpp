@@ -1,3 +1,5 @@
+#include "localPictureConverter/localPictureConverterExtension.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -7,26 +9,10 @@
 #include <optional>
 #include <string>
 
-#include "localInterpretatorUTF8/file/localStd.h"
-#include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
-#include "localPicture/color/localColorTable.h"
-#include "localPicture/picture/localPictureInstall.h"
-#include "picture/localPictureModule.h"
+#include "localPictureConverter/localPictureConverter.h"
 
 namespace {
-
-const localPictureConverter* givenConverter = nullptr;
-
-// Null where the program came without one.
-const localPictureConverter* converter() {
-    if (givenConverter != nullptr) {
-        return givenConverter;
-    }
-    static const localPictureConverter* const loaded =
-        localPictureModuleLoad(localStd::binaryPath());
-    return loaded;
-}
 
 std::optional<std::string> bytesOfFile(std::u16string_view name) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(localPlatform::openFile(name, "rb"),
@@ -55,10 +41,7 @@ bool pixmapAsBase64FromFileGet(localCall& call) {
     if (!bytes) {
         return call.fail(localErrorTypeFILENOTFOUND);
     }
-    if (converter() == nullptr) {
-        return call.fail(localErrorTypeGRAPHICONLY);
-    }
-    return call.give(converter()->pngAsBase64(*bytes));
+    return call.give(localPictureConverter::pngAsBase64(*bytes));
 }
 
 bool pixmapAsBase64PartGet(localCall& call) {
@@ -76,26 +59,16 @@ bool pixmapAsBase64PartGet(localCall& call) {
     if (call.args.size() > 4) {
         area.height = numbers[3];
     }
-    if (converter() == nullptr) {
-        return call.fail(localErrorTypeGRAPHICONLY);
-    }
-    const auto part = converter()->partAsBase64(call.text(0), area);
+    const auto part = localPictureConverter::partAsBase64(call.text(0), area);
     return part ? call.give(*part) : call.fail(localErrorTypePARAMETERVALUE);
 }
 
-bool color(localCall& call) {
-    return call.give(static_cast<double>(localColorTable::rgbFind(call.text(0))));
-}
+constexpr localExtensionFunction functions[] = {
+    {u"PIXMAPASBASE64FROMFILEGET", pixmapAsBase64FromFileGet},
+    {u"PIXMAPASBASE64PARTGET", pixmapAsBase64PartGet},
+};
 
 }  // namespace
 
-void localPictureInstall() {
-    localLibrary::install(u"COLOR", color);
-    localLibrary::install(u"PIXMAPASBASE64FROMFILEGET", pixmapAsBase64FromFileGet);
-    localLibrary::install(u"PIXMAPASBASE64PARTGET", pixmapAsBase64PartGet);
-}
-
-void localPictureInstall(const localPictureConverter& given) {
-    givenConverter = &given;
-    localPictureInstall();
-}
+constexpr localExtension localPictureConverterExtension = {.name = u"localPictureConverter",
+                                                           .functions = functions};

@@ -1,5 +1,5 @@
 // Pictures from one form into another.
-#include "localPictureConverter/localPictureConverterOnQt.h"
+#include "localPictureConverter/localPictureConverter.h"
 
 #include <gmock/gmock.h>
 
@@ -42,47 +42,47 @@ QImage places(int width, int height) {
     return image;
 }
 
-const localPictureConverter& converter = localPictureConverterOnQt();
-
-TEST(localPictureConverterOnQtTest, filesOfSeveralFormatsBecomePng) {
+TEST(localPictureConverterTest, filesOfSeveralFormatsBecomePng) {
     const QImage image = places(12, 7);
     for (const char* const format : {"PNG", "BMP", "PPM"}) {
-        const QImage read = imageOf(converter.pngAsBase64(viewOf(fileOf(image, format))));
+        const QImage read =
+            imageOf(localPictureConverter::pngAsBase64(viewOf(fileOf(image, format))));
         EXPECT_EQ(read.convertToFormat(QImage::Format_RGB32), image) << format;
     }
-    EXPECT_EQ(imageOf(converter.pngAsBase64(viewOf(fileOf(image, "JPEG")))).size(), image.size());
+    EXPECT_EQ(imageOf(localPictureConverter::pngAsBase64(viewOf(fileOf(image, "JPEG")))).size(),
+              image.size());
 }
 
-TEST(localPictureConverterOnQtTest, transparencySurvives) {
+TEST(localPictureConverterTest, transparencySurvives) {
     QImage image(3, 3, QImage::Format_ARGB32);
     image.fill(qRgba(255, 0, 0, 128));
-    const QImage read = imageOf(converter.pngAsBase64(viewOf(fileOf(image, "PNG"))));
+    const QImage read = imageOf(localPictureConverter::pngAsBase64(viewOf(fileOf(image, "PNG"))));
     EXPECT_EQ(qAlpha(read.pixel(1, 1)), 128);
 }
 
-TEST(localPictureConverterOnQtTest, whatIsNoPictureIsAnEmptyText) {
+TEST(localPictureConverterTest, whatIsNoPictureIsAnEmptyText) {
     const QByteArray png = fileOf(places(40, 40), "PNG");
-    EXPECT_EQ(converter.pngAsBase64({}), u"");
-    EXPECT_EQ(converter.pngAsBase64("text"), u"");
-    EXPECT_EQ(converter.pngAsBase64(viewOf(png).substr(0, 20)), u"");
-    EXPECT_EQ(converter.pngAsBase64(viewOf(png).substr(8)), u"");
+    EXPECT_EQ(localPictureConverter::pngAsBase64({}), u"");
+    EXPECT_EQ(localPictureConverter::pngAsBase64("text"), u"");
+    EXPECT_EQ(localPictureConverter::pngAsBase64(viewOf(png).substr(0, 20)), u"");
+    EXPECT_EQ(localPictureConverter::pngAsBase64(viewOf(png).substr(8)), u"");
 }
 
 // A header that promises more pixels than memory holds must not take the process down.
-TEST(localPictureConverterOnQtTest, aHugePromiseIsNoPicture) {
+TEST(localPictureConverterTest, aHugePromiseIsNoPicture) {
     QByteArray bmp = fileOf(places(4, 4), "BMP");
     for (const int place : {18, 22}) {
         bmp[place] = bmp[place + 1] = char(0xFF);
         bmp[place + 2] = bmp[place + 3] = 0x7F;
     }
-    EXPECT_EQ(converter.pngAsBase64(viewOf(bmp)), u"");
+    EXPECT_EQ(localPictureConverter::pngAsBase64(viewOf(bmp)), u"");
 }
 
-TEST(localPictureConverterOnQtTest, areasAreCut) {
+TEST(localPictureConverterTest, areasAreCut) {
     const QImage image = places(10, 6);
     const std::u16string text = textOf(fileOf(image, "BMP"));
     const auto part = [&](const localPictureArea& area) {
-        const auto cut = converter.partAsBase64(text, area);
+        const auto cut = localPictureConverter::partAsBase64(text, area);
         EXPECT_TRUE(cut);
         return imageOf(cut.value_or(u"")).convertToFormat(QImage::Format_RGB32);
     };
@@ -95,27 +95,27 @@ TEST(localPictureConverterOnQtTest, areasAreCut) {
     EXPECT_EQ(part({9, 5, 2147483647, 2147483647}), image.copy(9, 5, 1, 1));
 }
 
-TEST(localPictureConverterOnQtTest, anAreaWithoutPixelsIsAnEmptyText) {
+TEST(localPictureConverterTest, anAreaWithoutPixelsIsAnEmptyText) {
     const std::u16string text = textOf(fileOf(places(10, 6), "PNG"));
     for (const localPictureArea& area : {localPictureArea{10, 0, {}, {}},
                                          {0, 6, {}, {}},
                                          {10, 6, {}, {}},
                                          {1, 1, 0, {}},
                                          {1, 1, {}, 0}}) {
-        EXPECT_EQ(converter.partAsBase64(text, area), u"");
+        EXPECT_EQ(localPictureConverter::partAsBase64(text, area), u"");
     }
 }
 
-TEST(localPictureConverterOnQtTest, anAreaOutsideIsNothing) {
+TEST(localPictureConverterTest, anAreaOutsideIsNothing) {
     const std::u16string text = textOf(fileOf(places(10, 6), "PNG"));
-    EXPECT_EQ(converter.partAsBase64(text, {11, 0, {}, {}}), std::nullopt);
-    EXPECT_EQ(converter.partAsBase64(text, {0, 7, {}, {}}), std::nullopt);
+    EXPECT_EQ(localPictureConverter::partAsBase64(text, {11, 0, {}, {}}), std::nullopt);
+    EXPECT_EQ(localPictureConverter::partAsBase64(text, {0, 7, {}, {}}), std::nullopt);
 }
 
-TEST(localPictureConverterOnQtTest, whatIsNoPictureHasNoPixels) {
+TEST(localPictureConverterTest, whatIsNoPictureHasNoPixels) {
     for (const std::u16string_view text : {u"", u"AAAA", u"ёж", u"%%%"}) {
-        EXPECT_EQ(converter.partAsBase64(text, {0, 0, {}, {}}), u"");
-        EXPECT_EQ(converter.partAsBase64(text, {1, 0, {}, {}}), std::nullopt);
+        EXPECT_EQ(localPictureConverter::partAsBase64(text, {0, 0, {}, {}}), u"");
+        EXPECT_EQ(localPictureConverter::partAsBase64(text, {1, 0, {}, {}}), std::nullopt);
     }
 }
 

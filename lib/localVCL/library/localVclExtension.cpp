@@ -1,11 +1,8 @@
-#include "localVCL/library/localVclLibrary.h"
+#include "localVCL/library/localVclExtension.h"
 
 #include <QLabel>
 #include <QScrollArea>
 
-#include "localInterpretatorUTF8/library/localLibrary.h"
-#include "localPicture/picture/localPictureInstall.h"
-#include "localPictureConverter/localPictureConverterOnQt.h"
 #include "localVCL/picture/localVclPicture.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localVclOnWindowThread.h"
@@ -34,9 +31,10 @@ bool pixmapAsBase64Show(localCall& call) {
     return call.done();
 }
 
+constexpr localExtensionFunction functions[] = {
+    {u"PIXMAPASBASE64SHOW", pixmapAsBase64Show},
+};
+
 }  // namespace
 
-void localVclLibraryInstall() {
-    localPictureInstall(localPictureConverterOnQt());
-    localLibrary::install(u"PIXMAPASBASE64SHOW", pixmapAsBase64Show);
-}
+constexpr localExtension localVclExtension = {.name = u"localVCL", .functions = functions};

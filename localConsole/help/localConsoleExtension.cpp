@@ -1,10 +1,9 @@
-#include "localConsole/help/localConsoleLibrary.h"
+#include "localConsole/help/localConsoleExtension.h"
 
 #include <memory>
 
 #include "localConsole/help/localConsoleHelpBrowser.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
-#include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/textBrowser/localVclTextBrowser.h"
@@ -77,9 +76,11 @@ bool testTextBrowser(localCall& call) {
     return call.done();
 }
 
+constexpr localExtensionFunction functions[] = {
+    {u"___TEST", test},
+    {u"___TEST__TEXTBROWSER", testTextBrowser},
+};
+
 }  // namespace
 
-void localConsoleLibraryInstall() {
-    localLibrary::install(u"___TEST", test);
-    localLibrary::install(u"___TEST__TEXTBROWSER", testTextBrowser);
-}
+constexpr localExtension localConsoleExtension = {.name = u"localConsole", .functions = functions};

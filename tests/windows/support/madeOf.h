@@ -1,0 +1,15 @@
+// What the window tests are made of above the language, as the window program is.
+#pragma once
+
+#include "localConsole/help/localConsoleExtension.h"
+#include "localPicture/color/localPictureExtension.h"
+#include "localPictureConverter/localPictureConverterExtension.h"
+#include "localVCL/library/localVclExtension.h"
+
+inline void addWhatKorvoIsMadeOf() {
+    for (const localExtension* const extension :
+         {&localPictureExtension, &localPictureConverterExtension, &localVclExtension,
+          &localConsoleExtension}) {
+        localExtensionAdd(*extension);
+    }
+}
