@@ -1,6 +1,7 @@
 #include "window/localVclLookAt.h"
 
 #include <QShortcut>
+#include <QWidget>
 
 #include "localVCL/window/localVclWindow.h"
 
