@@ -13,7 +13,6 @@
 
 std::int64_t localContextUTF8::counterStaticTotal = 0;
 localContextUTF8* localContextUTF8::globalContext = nullptr;
-localContextUTF8* localContextUTF8::newestAlive_ = nullptr;
 
 localContextUTF8::localContextUTF8() {
     enter(globalContext);
@@ -30,11 +29,6 @@ localContextUTF8::localContextUTF8(localContextUTF8* parentContext) {
 
 void localContextUTF8::enter(localContextUTF8* parentContext) {
     ++counterStaticTotal;
-    olderAlive_ = newestAlive_;
-    if (newestAlive_ != nullptr) {
-        newestAlive_->newerAlive_ = this;
-    }
-    newestAlive_ = this;
     parent_ = parentContext;
     int status = localErrorTypeOK;
     init(status);
@@ -50,24 +44,10 @@ localContextUTF8::~localContextUTF8() {
         value.reset();
         localValueDescription::release(&value);
     }
-    if (olderAlive_ != nullptr) {
-        olderAlive_->newerAlive_ = newerAlive_;
-    }
-    (newerAlive_ == nullptr ? newestAlive_ : newerAlive_->olderAlive_) = olderAlive_;
     if (globalContext == this) {
         globalContext = nullptr;
     }
     --counterStaticTotal;
-}
-
-bool localContextUTF8::isAlive(const void* address) {
-    for (const localContextUTF8* context = newestAlive_; context != nullptr;
-         context = context->olderAlive_) {
-        if (context == address) {
-            return true;
-        }
-    }
-    return false;
 }
 
 void localContextUTF8::ceatorSet(void* owner) {

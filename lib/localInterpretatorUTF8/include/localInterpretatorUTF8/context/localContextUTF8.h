@@ -19,6 +19,7 @@
 #include "localInterpretatorUTF8/text/localScopeTable.h"
 #include "localInterpretatorUTF8/text/localText.h"
 #include "localInterpretatorUTF8/value/localClassDeclaration.h"
+#include "localInterpretatorUTF8/value/localLiveObject.h"
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 
 struct localOperatorCompiled;
@@ -65,7 +66,9 @@ public:
     bool init(int& status);
 
     // Whether the address is that of a context that stands. A value may hold one that has gone.
-    static bool isAlive(const void* address);
+    static bool isAlive(const void* address) {
+        return localLiveObject::stands(address, localLiveObject::Kind::scope);
+    }
 
     // Names the owner of the context, once; a second time halts.
     void ceatorSet(void* owner);
@@ -166,10 +169,7 @@ private:
     localScopeTable<localFunctionEntry> functions_;
     localScopeTable<localVariableEntry> variables_;
 
-    // All contexts that stand, the newest first.
-    localContextUTF8* olderAlive_ = nullptr;
-    localContextUTF8* newerAlive_ = nullptr;
-    static localContextUTF8* newestAlive_;
+    localLiveObject alive_{this, localLiveObject::Kind::scope};
 };
 
 // The pattern rule of listings: "?" is any unit, "*" means the rest matches, an empty pattern
