@@ -60,17 +60,14 @@ bool test(localCall& call) {
 // ___TEST__TEXTBROWSER(list): the items as pages of HTML, their presentations being the pages'
 // names.
 bool testTextBrowser(localCall& call) {
-    const localValueList* const pages = localValueList::of(*call.args[0]);
-    if (pages == nullptr) {
-        return call.fail(localErrorTypePARAMETERTYPE);
-    }
-    if (pages->size() == 0) {
+    const localValueList& pages = *localValueList::of(*call.args[0]);
+    if (pages.size() == 0) {
         writeLine(u" Ошибка! Пустой список значений");
         return call.done();
     }
     localVclOnWindowThread([&] {
         auto browser = std::make_unique<localConsoleHelpBrowser>();
-        browser->pagesFromList(*pages);
+        browser->pagesFromList(pages);
         showHelp(std::move(browser), u"#main.htm");
     });
     return call.done();

@@ -5,7 +5,6 @@
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localMethodTable.h"
-#include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace {
 
@@ -46,24 +45,9 @@ constexpr localMethodRow methods[] = {
     {u"GETINTPLUS", u"ПОЛУЧИТЬЦЕЛОЕПЛЮС", "n", getIntPlus},
 };
 
-bool attributeGet(int& status, localContextUTF8*, void*& object, std::u16string_view name,
-                  localValueDescription*& result) {
-    if (result != nullptr) {
-        exit_FAILURE(
-            u"localClassForTest::classImplementationAttribGetFunction() result must be NULL!");
-    }
-    result = localMemoryManager::manager->reserveSlot();
-    if (name == u"SELF") {
-        result->objectBind(object, localClassForTest::classDeclaration());
-        return true;
-    }
-    if (name == u"ATTRIBINT") {
-        result->setVal(static_cast<localClassForTest*>(object)->attribInt);
-        return true;
-    }
-    result->setVal(localErrorTypeATTRIBUTEunknown);
-    status = localErrorTypeATTRIBUTEWRONG;
-    return false;
+bool self(localCall& call) {
+    call.result.objectBind(call.object, localClassForTest::classDeclaration());
+    return true;
 }
 
 std::int32_t truncated(double number) {
@@ -74,19 +58,15 @@ std::int32_t truncated(double number) {
     return number < Limits::max() ? static_cast<std::int32_t>(number) : Limits::max();
 }
 
-bool attributeSet(int& status, localContextUTF8*, void*& object, std::u16string_view name,
-                  const localValueDescription* newValue) {
-    if (name != u"ATTRIBINT") {
-        status = localErrorTypeATTRIBUTEWRONG;
-        return false;
-    }
-    static_cast<localClassForTest*>(object)->attribInt = truncated(newValue->num);
+// Takes the number field of any value. Meant.
+bool setInt(localCall& call) {
+    objectOf(call).attribInt = truncated(call.number(0));
     return true;
 }
 
 constexpr localAttributeRow attributes[] = {
-    {u"SELF", attributeGet, nullptr},
-    {u"ATTRIBINT", attributeGet, attributeSet},
+    {u"SELF", u"", self, nullptr},
+    {u"ATTRIBINT", u"", getInt, setInt},
 };
 
 constexpr localClassTable table = {
@@ -94,12 +74,7 @@ constexpr localClassTable table = {
     .nameRus = u"ТЕСТ",
     .description = u"тестовый класс для отладки объектно-ориентированного программирования",
     .nativeName = u"localClassForTest",
-    .construct = []() -> void* { return new localClassForTest; },
-    .destroy = [](void* object) { delete static_cast<localClassForTest*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<localClassForTest*>(*object)->linkCounter +=
-               static_cast<std::uint32_t>(delta);
-    },
+    .native = localNativeOf<localClassForTest>(),
     .methods = methods,
     .attributes = attributes,
     // The Russian names stand in the table but no call of a program reaches them. Meant.

@@ -19,12 +19,7 @@ constexpr localClassTable table = {
     .nameRus = u"ДАТА",
     .description = u"класс ДАТА",
     .nativeName = u"localDateTime",
-    .construct = []() -> void* { return new localDateTime; },
-    .destroy = [](void* object) { delete static_cast<localDateTime*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<localDateTime*>(*object)->linkCounter +=
-               static_cast<std::uint32_t>(delta);
-    },
+    .native = localNativeOf<localDateTime>(),
     .methods = methods,
     .attributes = {},
     // The Russian name stands in the table but no member leads to it. Meant.

@@ -15,7 +15,7 @@ localValueList& listOf(const localCall& call) {
 
 // A position to read, 0 unless there is such an item.
 std::size_t positionAt(const localCall& call) {
-    const std::size_t position = localIndex(call.number(0));
+    const std::size_t position = call.index(0);
     return position > listOf(call).size() ? 0 : position;
 }
 
@@ -126,9 +126,8 @@ bool valuePresentationGet(localCall& call) {
 }
 
 bool valueRemove(localCall& call) {
-    return listOf(call).valueRemove(localIndex(call.number(0)))
-               ? call.done()
-               : call.fail(localErrorTypeOUTOFRANGE);
+    return listOf(call).valueRemove(call.index(0)) ? call.done()
+                                                   : call.fail(localErrorTypeOUTOFRANGE);
 }
 
 bool valueSet(localCall& call) {
@@ -145,8 +144,7 @@ bool valueSetByPresentation(localCall& call) {
 }
 
 bool valueSetPresentation(localCall& call) {
-    return call.giveBoolean(
-        listOf(call).presentationSet(localIndex(call.number(0)), call.args[1]->wStr));
+    return call.giveBoolean(listOf(call).presentationSet(call.index(0), call.args[1]->wStr));
 }
 
 constexpr localMethodRow methods[] = {
@@ -157,14 +155,14 @@ constexpr localMethodRow methods[] = {
     {u"SIZE", u"КОЛИЧЕСТВО", "", giveSize},
     {u"TOJSON", u"", "", toJson},
     {u"VALUEADD", u"ЗНАЧЕНИЕДОБАВИТЬ", "?", valueAdd},
-    {u"VALUEGET", u"ЗНАЧЕНИЕПОЛУЧИТЬ", "n", valueGet},
+    {u"VALUEGET", u"ЗНАЧЕНИЕПОЛУЧИТЬ", "i", valueGet},
     {u"VALUEGETBYPRESENTATION", u"ЗНАЧЕНИЕПОЛУЧИТЬПОПРЕДСТАВЛЕНИЮ", "s", valueGetByPresentation},
-    {u"VALUEINSERT", u"ЗНАЧЕНИЕВСТАВИТЬ", "nv|s", valueInsert},
-    {u"VALUEPRESENTATIONGET", u"ЗНАЧЕНИЕПРЕДСТАВЛЕНИЕПОЛУЧИТЬ", "n", valuePresentationGet},
-    {u"VALUEREMOVE", u"ЗНАЧЕНИЕУДАЛИТЬ", "n", valueRemove},
-    {u"VALUESET", u"ЗНАЧЕНИЕУСТАНОВИТЬ", "nv", valueSet},
+    {u"VALUEINSERT", u"ЗНАЧЕНИЕВСТАВИТЬ", "iv|s", valueInsert},
+    {u"VALUEPRESENTATIONGET", u"ЗНАЧЕНИЕПРЕДСТАВЛЕНИЕПОЛУЧИТЬ", "i", valuePresentationGet},
+    {u"VALUEREMOVE", u"ЗНАЧЕНИЕУДАЛИТЬ", "i", valueRemove},
+    {u"VALUESET", u"ЗНАЧЕНИЕУСТАНОВИТЬ", "iv", valueSet},
     {u"VALUESETBYPRESENTATION", u"ЗНАЧЕНИЕУСТАНОВИТЬПОПРЕДСТАВЛЕНИЮ", "vs", valueSetByPresentation},
-    {u"VALUESETPRESENTATION", u"ЗНАЧЕНИЕУСТАНОВИТЬПРЕДСТАВЛЕНИЕ", "ns", valueSetPresentation},
+    {u"VALUESETPRESENTATION", u"ЗНАЧЕНИЕУСТАНОВИТЬПРЕДСТАВЛЕНИЕ", "is", valueSetPresentation},
 };
 
 constexpr localClassTable table = {
@@ -172,12 +170,7 @@ constexpr localClassTable table = {
     .nameRus = u"СПИСОКЗНАЧЕНИЙ",
     .description = u"класс СписокЗначений",
     .nativeName = u"localValueList",
-    .construct = []() -> void* { return new localValueList; },
-    .destroy = [](void* object) { delete static_cast<localValueList*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<localValueList*>(*object)->linkCounter +=
-               static_cast<std::uint32_t>(delta);
-    },
+    .native = localNativeOf<localValueList>(),
     .methods = methods,
     .attributes = {},
 };

@@ -25,7 +25,7 @@ bool isColumnKey(const localValueDescription& value) {
 std::size_t columnAt(const localCall& call, std::size_t argument) {
     return call.args[argument]->type == localValueTypeSTRING
                ? tableOf(call).columnNumber(call.text(argument))
-               : localIndex(call.number(argument));
+               : call.index(argument);
 }
 
 bool toStringMethod(localCall& call) {
@@ -43,7 +43,7 @@ bool columnAdd(localCall& call) {
 }
 
 bool columnNameGet(localCall& call) {
-    const std::size_t number = localIndex(call.number(0));
+    const std::size_t number = call.index(0);
     if (number == 0 || number > tableOf(call).columnsCount()) {
         return call.fail(localErrorTypeOUTOFRANGE);
     }
@@ -60,7 +60,7 @@ bool columnParametersGet(localCall& call) {
     }
     return call.args[0]->type == localValueTypeSTRING
                ? columnNumberGet(call)
-               : call.give(tableOf(call).columnName(localIndex(call.number(0))));
+               : call.give(tableOf(call).columnName(call.index(0)));
 }
 
 bool columnsCount(localCall& call) {
@@ -68,8 +68,7 @@ bool columnsCount(localCall& call) {
 }
 
 bool rowAdd(localCall& call) {
-    return giveCount(call,
-                     tableOf(call).rowAdd(call.args.empty() ? 0 : localIndex(call.number(0))));
+    return giveCount(call, tableOf(call).rowAdd(call.args.empty() ? 0 : call.index(0)));
 }
 
 bool rowActualGet(localCall& call) {
@@ -77,7 +76,7 @@ bool rowActualGet(localCall& call) {
 }
 
 bool rowActualSet(localCall& call) {
-    const std::uint32_t row = localIndex(call.number(0));
+    const std::uint32_t row = call.index(0);
     if (row == 0 || row > tableOf(call).rowsCount()) {
         return call.fail(localErrorTypeOUTOFRANGE);
     }
@@ -120,8 +119,7 @@ bool valueGet(localCall& call) {
         return call.fail(localErrorTypePARAMETERTYPE);
     }
     localSlot value;
-    if (!tableOf(call).cellGet(call.status, localIndex(call.number(0)), columnAt(call, 1),
-                               value.asResult())) {
+    if (!tableOf(call).cellGet(call.status, call.index(0), columnAt(call, 1), value.asResult())) {
         return false;
     }
     call.result.take(*value);
@@ -134,8 +132,7 @@ bool valueSet(localCall& call) {
         return call.fail(localErrorTypePARAMETERTYPE);
     }
     call.giveBoolean(true);
-    return tableOf(call).cellSet(call.status, localIndex(call.number(0)), columnAt(call, 1),
-                                 *call.args[2]);
+    return tableOf(call).cellSet(call.status, call.index(0), columnAt(call, 1), *call.args[2]);
 }
 
 bool fillFromJson(localCall& call) {
@@ -152,19 +149,19 @@ constexpr localMethodRow methods[] = {
     {u"TOSTRING", u"СТРОКА", "", toStringMethod},
     {u"CLEAR", u"ОЧИСТИТЬ", "", clear},
     {u"COLUMNADD", u"КОЛОНКАДОБАВИТЬ", "s", columnAdd},
-    {u"COLUMNNAMEGET", u"КОЛОНКАИМЯПОЛУЧИТЬ", "n", columnNameGet},
+    {u"COLUMNNAMEGET", u"КОЛОНКАИМЯПОЛУЧИТЬ", "i", columnNameGet},
     {u"COLUMNNUMBERGET", u"КОЛОНКАНОМЕРПОЛУЧИТЬ", "s", columnNumberGet},
     {u"COLUMNPARAMETERSGET", u"КОЛОНКАПАРАМЕТРЫПОЛУЧИТЬ", "v", columnParametersGet},
     {u"COLUMNSCOUNT", u"КОЛОНКИКОЛИЧЕСТВО", "", columnsCount},
-    {u"ROWADD", u"РЯДДОБАВИТЬ", "|n", rowAdd},
+    {u"ROWADD", u"РЯДДОБАВИТЬ", "|i", rowAdd},
     {u"ROWACTUALGET", u"РЯДТЕКУЩИЙПОЛУЧИТЬ", "", rowActualGet},
-    {u"ROWACTUALSET", u"РЯДТЕКУЩИЙУСТАНОВИТЬ", "n", rowActualSet},
+    {u"ROWACTUALSET", u"РЯДТЕКУЩИЙУСТАНОВИТЬ", "i", rowActualSet},
     {u"ROWCHOOSE", u"РЯДВЫБРАТЬ", "ss", rowChoose},
     {u"ROWSCOUNT", u"РЯДЫКОЛИЧЕСТВО", "", rowsCount},
     {u"SHOW", u"ПОКАЗАТЬ", "", localBroughtFromAbove},
     {u"SORT", u"СОРТИРОВАТЬ", "s", sort},
-    {u"VALUEGET", u"ЗНАЧЕНИЕПОЛУЧИТЬ", "nv", valueGet},
-    {u"VALUESET", u"ЗНАЧЕНИЕУСТАНОВИТЬ", "nvv", valueSet},
+    {u"VALUEGET", u"ЗНАЧЕНИЕПОЛУЧИТЬ", "iv", valueGet},
+    {u"VALUESET", u"ЗНАЧЕНИЕУСТАНОВИТЬ", "ivv", valueSet},
     {u"FILLFROMJSON", u"", "s", fillFromJson},
 };
 
@@ -184,12 +181,7 @@ constexpr localClassTable table = {
     .nameRus = u"ТАБЛИЦАЗНАЧЕНИЙ",
     .description = u"класс ТаблицаЗначений",
     .nativeName = u"localValueTable",
-    .construct = []() -> void* { return new localValueTable; },
-    .destroy = [](void* object) { delete static_cast<localValueTable*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<localValueTable*>(*object)->linkCounter +=
-               static_cast<std::uint32_t>(delta);
-    },
+    .native = localNativeOf<localValueTable>(),
     .methods = methods,
     .attributes = {},
     .classWideMethods = true,

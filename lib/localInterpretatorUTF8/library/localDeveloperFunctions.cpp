@@ -13,11 +13,7 @@ bool test(localCall& call) {
 }
 
 bool testTextBrowser(localCall& call) {
-    const localValueList* pages = localValueList::of(*call.args[0]);
-    if (pages == nullptr) {
-        return call.fail(localErrorTypePARAMETERTYPE);
-    }
-    if (pages->size() == 0) {
+    if (localValueList::of(*call.args[0])->size() == 0) {
         writeLine(u" Ошибка! Пустой список значений");
         return call.done();
     }

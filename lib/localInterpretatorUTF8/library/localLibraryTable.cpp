@@ -97,7 +97,7 @@ constexpr std::array table = std::to_array<localMethodRow>({
     {u"PIXMAPASBASE64SHOW", u"", "s", localBroughtFromAbove},
     // Developer entries
     {u"___TEST", u"", "|s", test},
-    {u"___TEST__TEXTBROWSER", u"", "o", testTextBrowser},
+    {u"___TEST__TEXTBROWSER", u"", "l", testTextBrowser},
     {u"___TEST00001", u"", "s", test00001},
     // No members, so listings leave them out, but calls reach them. The first answers the text of a
     // value that holds a context; the other is VALUETOSTRING under a name that switches it off.
@@ -134,16 +134,13 @@ bool call(int& status, localContextUTF8* context, std::u16string_view name,
         return false;
     }
     const localMethodRows::Entry* entry = functionRows().find(name);
-    if (entry == nullptr || entry->handler == nothing) {
+    if (entry == nullptr) {
         status = localErrorTypeMETHODUNKNOWN;
-        return false;
-    }
-    if (!localArgumentsCheck(status, entry->row->arguments, *args)) {
         return false;
     }
     localCall callFacts{status, context, context, name, *args, *result};
     try {
-        return entry->handler(callFacts);
+        return localHandlerRun(callFacts, entry->row->arguments, entry->handler);
     } catch (const std::bad_alloc&) {
         return outOfMemory(status, entry->row->english);
     } catch (const std::length_error&) {

@@ -11,14 +11,28 @@ bool typeFits(char letter, const localValueDescription& value) {
         case 's':
             return value.type == localValueTypeSTRING;
         case 'n':
+        case 'i':
             return value.type == localValueTypeNUMBER;
         case 'b':
             return value.type == localValueTypeBOOLEAN;
         case 'o':
             return value.type == localValueTypeOBJECT;
+        case 'l':
+            return isClass(value, u"VALUELIST");
+        case 't':
+            return isClass(value, u"VALUETABLE");
         default:
             return true;
     }
+}
+
+const localAttributeRow* attributeFind(const localClassTable& table, std::u16string_view name) {
+    for (const localAttributeRow& row : table.attributes) {
+        if (name == row.english || (!row.russian.empty() && name == row.russian)) {
+            return &row;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -53,6 +67,13 @@ std::uint32_t localIndex(double value) {
     return value >= 1.0 && value < 4294967295.0 ? static_cast<std::uint32_t>(value) : 0;
 }
 
+bool localHandlerRun(localCall& call, std::string_view pattern, localHandler handler) {
+    if (handler == nullptr) {
+        return call.fail(localErrorTypeMETHODUNKNOWN);
+    }
+    return localArgumentsCheck(call.status, pattern, call.args) && handler(call);
+}
+
 bool localTableMethod(const localClassTable& table, localClassDeclaration* declaration, int& status,
                       localContextUTF8* context, void*& object, std::u16string_view name,
                       const localArguments* args, localValueDescription*& result) {
@@ -67,16 +88,16 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
             status = localErrorTypeSTATICCALL;
             return false;
         }
-        if (table.construct == nullptr) {
+        if (table.native.construct == nullptr) {
             status = localErrorTypeNOCONSTRUCTOR;
             return false;
         }
-        object = table.construct();
+        object = table.native.construct();
         result->objectBind(object, declaration);
         return true;
     }
     if (name == u"~") {
-        table.destroy(object);
+        table.native.destroy(object);
         return true;
     }
     if (args == nullptr) {
@@ -88,11 +109,40 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
         status = localErrorTypeMETHODUNKNOWN;
         return false;
     }
-    if (!localArgumentsCheck(status, entry->row->arguments, *args)) {
-        return false;
-    }
     localCall call{status, context, object, name, *args, *result};
-    return entry->handler(call);
+    return localHandlerRun(call, entry->row->arguments, entry->handler);
+}
+
+bool localTableAttributeGet(const localClassTable& table, int& status, localContextUTF8* context,
+                            void* object, std::u16string_view name,
+                            localValueDescription*& result) {
+    if (result != nullptr) {
+        exit_FAILURE(std::u16string(table.nativeName) +
+                     u"::classImplementationAttribGetFunction() result must be NULL!");
+    }
+    result = localMemoryManager::manager->reserveSlot();
+    localCall call{status, context, object, name, {}, *result};
+    const localAttributeRow* const row = attributeFind(table, name);
+    if (row == nullptr) {
+        call.give(localErrorTypeATTRIBUTEunknown);
+        return call.fail(localErrorTypeATTRIBUTEWRONG);
+    }
+    return row->get == nullptr ? call.fail(localErrorTypeATTRIBUTENOTREADABLE) : row->get(call);
+}
+
+bool localTableAttributeSet(const localClassTable& table, int& status, localContextUTF8* context,
+                            void* object, std::u16string_view name,
+                            const localValueDescription* newValue) {
+    // A handler reads its arguments only.
+    localValueDescription* const values[] = {const_cast<localValueDescription*>(newValue)};
+    localValueDescription nothing;
+    localCall call{status, context, object, name, values, nothing};
+    const localAttributeRow* const row = attributeFind(table, name);
+    if (row == nullptr) {
+        return call.fail(localErrorTypeATTRIBUTEWRONG);
+    }
+    return row->set == nullptr ? call.fail(localErrorTypeATTRIBUTENOTWRITEABLE)
+                               : localHandlerRun(call, row->value, row->set);
 }
 
 bool localBroughtFromAbove(localCall& call) {
@@ -122,22 +172,34 @@ bool localMethodRows::fill(std::u16string_view english, localHandler handler) {
 }
 
 void localDeclareFromTable(localClassDeclaration& declaration, const localClassTable& table,
-                           localMethodFunction method) {
+                           localMethodFunction method, localAttribGetFunction attributeGet,
+                           localAttribSetFunction attributeSet) {
     declaration.nameEng = table.nameEng;
     declaration.nameRus = table.nameRus;
     declaration.description = table.description;
-    declaration.classImplementationLinkFunction = table.link;
+    declaration.classImplementationLinkFunction = table.native.link;
     declaration.classImplementationMethodFunction = table.classWideMethods ? method : nullptr;
     declaration.classImplementationAttribGetFunction = table.classWideAttributes;
-    declaration.memberAdd({u"", table.construct == nullptr ? nullptr : method, nullptr, nullptr});
+    declaration.memberAdd(
+        {u"", table.native.construct == nullptr ? nullptr : method, nullptr, nullptr});
     declaration.memberAdd({u"~", method, nullptr, nullptr});
+    const auto add = [&](std::u16string_view english, std::u16string_view russian,
+                         localClassMember member) {
+        member.name = english;
+        declaration.memberAdd(member);
+        if (!russian.empty() && table.memberNames == localMemberNames::both) {
+            member.name = russian;
+            declaration.memberAdd(std::move(member));
+        }
+    };
     for (const localAttributeRow& row : table.attributes) {
-        declaration.memberAdd({std::u16string(row.name), nullptr, row.set, row.get});
+        add(row.english, row.russian,
+            {{},
+             nullptr,
+             row.set == nullptr ? nullptr : attributeSet,
+             row.get == nullptr ? nullptr : attributeGet});
     }
     for (const localMethodRow& row : table.methods) {
-        declaration.memberAdd({std::u16string(row.english), method, nullptr, nullptr});
-        if (!row.russian.empty() && table.memberNames == localMemberNames::both) {
-            declaration.memberAdd({std::u16string(row.russian), method, nullptr, nullptr});
-        }
+        add(row.english, row.russian, {{}, method, nullptr, nullptr});
     }
 }

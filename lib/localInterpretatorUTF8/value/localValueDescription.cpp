@@ -233,7 +233,11 @@ std::u16string addressText(const void* address) {
     return u"0x" + std::u16string(digits, end);
 }
 
-bool isClass(const localValueDescription& value, const localClassDeclaration& declaration) {
+bool isClass(const localValueDescription& value, std::u16string_view nameEng) {
     return value.type == localValueTypeOBJECT && value.pointer != nullptr &&
-           value.objClass != nullptr && value.objClass->nameEng == declaration.nameEng;
+           value.objClass != nullptr && value.objClass->nameEng == nameEng;
+}
+
+bool isClass(const localValueDescription& value, const localClassDeclaration& declaration) {
+    return isClass(value, declaration.nameEng);
 }

@@ -196,16 +196,16 @@ TEST_F(localValueListTest, objectsInItCountExactly) {
         list.valueAppend(cell);
         list.valueInsert(1, cell);
     }
-    EXPECT_EQ(object->links, 21);
+    EXPECT_EQ(object->linkCounter, 21);
     list.valueRemove(3);
-    EXPECT_EQ(object->links, 20);
+    EXPECT_EQ(object->linkCounter, 20);
     list.valueAt(1).setVal(1.0);
-    EXPECT_EQ(object->links, 19);
+    EXPECT_EQ(object->linkCounter, 19);
     list.valueSetByPresentation(cell, u"p");
     list.valueSetByPresentation(cell, u"p");
-    EXPECT_EQ(object->links, 20);
+    EXPECT_EQ(object->linkCounter, 20);
     list.clear();
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
 }
 
 TEST_F(localValueListTest, aListIsDeletedWithItsLastHolder) {

@@ -123,7 +123,7 @@ TEST_F(localValueTableTest, aCellWrittenWithItselfKeepsItsObject) {
     table.cell(0, 0).objectBind(object, countedClass());
     int status = localErrorTypeOK;
     EXPECT_TRUE(table.cellSet(status, 1, 1, table.cell(0, 0)));
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
 }
 
 TEST_F(localValueTableTest, aResultThatIsThereHalts) {
@@ -282,7 +282,7 @@ TEST_F(localValueTableTest, sortMovesRowsWithoutTouchingObjects) {
     EXPECT_EQ(&table.cell(2, 1), first) << "the cells stay where they are, their row changes place";
     for (std::size_t i = 0; i < 3; ++i) {
         EXPECT_EQ(table.cell(i, 1).pointer, objects[2 - i]);
-        EXPECT_EQ(objects[i]->links, 1);
+        EXPECT_EQ(objects[i]->linkCounter, 1);
     }
 }
 

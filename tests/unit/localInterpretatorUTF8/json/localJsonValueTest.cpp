@@ -13,7 +13,7 @@ namespace {
 
 // A class whose TOJSON answers what the object holds, or fails without a text.
 struct writtenObject {
-    std::int64_t links = 0;
+    std::int64_t linkCounter = 0;
     localText text;
     bool fails = false;
 };
@@ -33,11 +33,7 @@ constexpr localClassTable writtenTable = {
     .nameRus = u"ЗАПИСАННЫЙ",
     .description = u"класс для проверок",
     .nativeName = u"writtenObject",
-    .construct = []() -> void* { return new writtenObject; },
-    .destroy = [](void* object) { delete static_cast<writtenObject*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<writtenObject*>(*object)->links += delta;
-    },
+    .native = localNativeOf<writtenObject>(),
     .methods = writtenMethods,
     .attributes = {},
 };

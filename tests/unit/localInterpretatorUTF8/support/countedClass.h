@@ -18,7 +18,7 @@ public:
     countedObject(const countedObject&) = delete;
     countedObject& operator=(const countedObject&) = delete;
 
-    std::int64_t links = 0;
+    std::int64_t linkCounter = 0;
     localValueDescription held;
 };
 
@@ -27,6 +27,27 @@ inline constexpr localMethodRow countedMethods[] = {
     {u"FAIL", u"ОТКАЗ", "", [](localCall& call) { return call.fail(localErrorTypeOUTOFRANGE); }},
     {u"ADD", u"СЛОЖИТЬ", "nn",
      [](localCall& call) { return call.give(call.number(0) + call.number(1)); }},
+    {u"LATER", u"ПОТОМ", "", nullptr},
+};
+
+inline countedObject& countedOf(const localCall& call) {
+    return *static_cast<countedObject*>(call.object);
+}
+
+inline constexpr localAttributeRow countedAttributes[] = {
+    {u"HELD", u"ЗНАЧЕНИЕ",
+     [](localCall& call) {
+         call.result.assign(countedOf(call).held);
+         return true;
+     },
+     [](localCall& call) {
+         countedOf(call).held.assign(*call.args[0]);
+         return true;
+     }},
+    {u"LINKS", u"",
+     [](localCall& call) { return call.give(static_cast<double>(countedOf(call).linkCounter)); },
+     nullptr},
+    {u"SECRET", u"", nullptr, [](localCall&) { return true; }, "s"},
 };
 
 inline constexpr localClassTable countedTable = {
@@ -34,13 +55,9 @@ inline constexpr localClassTable countedTable = {
     .nameRus = u"СЧИТАЕМЫЙ",
     .description = u"класс для проверок",
     .nativeName = u"countedObject",
-    .construct = []() -> void* { return new countedObject; },
-    .destroy = [](void* object) { delete static_cast<countedObject*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<countedObject*>(*object)->links += delta;
-    },
+    .native = localNativeOf<countedObject>(),
     .methods = countedMethods,
-    .attributes = {},
+    .attributes = countedAttributes,
 };
 
 inline localClassDeclaration* countedClass() {

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "localInterpretatorUTF8/container/localValueList.h"
+#include "localInterpretatorUTF8/container/localValueTable.h"
 #include "support/countedClass.h"
 #include "support/language.h"
 
@@ -16,6 +18,8 @@ protected:
         cells_['n'].setVal(1.0);
         cells_['b'].setBoolean(true);
         cells_['o'].objectBind(&native_, nullptr);
+        cells_['l'].objectBind(new localValueList, localValueList::classDeclaration());
+        cells_['t'].objectBind(new localValueTable, localValueTable::classDeclaration());
     }
 
     // What checking arguments of these kinds against a pattern leaves: 54, 31 or 33.
@@ -62,7 +66,10 @@ TEST_F(tableTest, argumentsAreCheckedForNumberFirstThenForType) {
         {"n|vv", "nso", 54}, {"n|vv", "nsos", 31}, {"v+", "", 31},       {"v+", "s", 54},
         {"v+", "snb", 54},   {"sn+", "s", 31},     {"sn+", "sn", 54},    {"sn+", "snnn", 54},
         {"sn+", "snns", 33}, {"s|n+", "s", 54},    {"s|n+", "snnn", 54}, {"s|n+", "snnb", 33},
-        {"?", "", 54},       {"?", "snbo", 54},
+        {"?", "", 54},       {"?", "snbo", 54},    {"i", "n", 54},       {"i", "s", 33},
+        {"i", "b", 33},      {"l", "l", 54},       {"l", "t", 33},       {"l", "o", 33},
+        {"l", "s", 33},      {"l", "", 31},        {"t", "t", 54},       {"t", "l", 33},
+        {"t", "o", 33},      {"o", "l", 54},       {"|il", "n", 54},     {"|il", "nn", 33},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(checked(row.pattern, row.kinds), row.status)
@@ -98,8 +105,9 @@ TEST_F(tableTest, theDeclarationHasConstructorDestructorAndBothNames) {
     for (const auto& member : declaration.members()) {
         names.push_back(utf8(member->name));
     }
-    EXPECT_THAT(names, testing::ElementsAre("", "~", "TOSTRING", "СТРОКА", "FAIL", "ОТКАЗ", "ADD",
-                                            "СЛОЖИТЬ"));
+    EXPECT_THAT(names, testing::ElementsAre("", "~", "HELD", "ЗНАЧЕНИЕ", "LINKS", "SECRET",
+                                            "TOSTRING", "СТРОКА", "FAIL", "ОТКАЗ", "ADD", "СЛОЖИТЬ",
+                                            "LATER", "ПОТОМ"));
 }
 
 TEST_F(tableTest, theRoadOfAnObject) {
@@ -151,9 +159,7 @@ TEST_F(tableTest, aClassWithoutConstructorMakesNoObject) {
         .nameRus = u"ГОЛЫЙ",
         .description = u"",
         .nativeName = u"bare",
-        .construct = nullptr,
-        .destroy = [](void*) {},
-        .link = nullptr,
+        .native = {nullptr, [](void*) {}, nullptr},
         .methods = countedMethods,
         .attributes = {},
         .memberNames = localMemberNames::englishOnly,
@@ -173,6 +179,111 @@ TEST_F(tableTest, aClassWithoutConstructorMakesNoObject) {
     EXPECT_TRUE(
         declaration.methodExec(status, nullptr, object, u"строка", &none, result.asResult()));
     EXPECT_EQ(result->toString().view(), u"counted");
+}
+
+TEST_F(tableTest, anArgumentIsReadAsAnIndex) {
+    localValueDescription number;
+    number.setVal(2.9);
+    localValueDescription* const args[] = {&number};
+    localValueDescription result;
+    int status = localErrorTypeOK;
+    const localCall call{status, nullptr, nullptr, u"", args, result};
+    EXPECT_EQ(call.index(0), 2U);
+    number.setVal(-1.0);
+    EXPECT_EQ(call.index(0), 0U);
+}
+
+TEST_F(tableTest, aTypeThatCannotBeMadeOfNothingHasNoConstructor) {
+    struct Row {
+        explicit Row(int first) : number(first) {}
+        int number;
+        std::uint32_t linkCounter = 0;
+    };
+    constexpr localNativeType type = localNativeOf<Row>();
+    EXPECT_EQ(type.construct, nullptr);
+    void* object = new Row(7);
+    EXPECT_EQ(type.link(&object, 2), 2);
+    EXPECT_EQ(type.link(&object, -1), 1);
+    EXPECT_EQ(type.link(&object, 0), 1);
+    type.destroy(object);
+    EXPECT_NE(localNativeOf<countedObject>().construct, nullptr);
+}
+
+TEST_F(tableTest, aRowWithoutHandlerCannotBeCalled) {
+    localSlot made;
+    call(nullptr, u"", nullptr, made);
+    const localArguments none;
+    localSlot result;
+    EXPECT_NE(countedClass()->memberFind(u"LATER"), nullptr);
+    EXPECT_EQ(call(made->pointer, u"later", &none, result), 27);
+    EXPECT_EQ(call(made->pointer, u"потом", &none, result), 27);
+    EXPECT_TRUE(result) << "the slot stays reserved on failure";
+}
+
+TEST_F(tableTest, attributesAreRowsWithTheRightsOfTheirHandlers) {
+    const auto rights = [](const char16_t* name) {
+        const localClassMember* const member = countedClass()->memberFind(name);
+        return std::string(member->attribGetFunction != nullptr ? "r" : "") +
+               (member->attribSetFunction != nullptr ? "w" : "");
+    };
+    EXPECT_EQ(rights(u"HELD"), "rw");
+    EXPECT_EQ(rights(u"ЗНАЧЕНИЕ"), "rw");
+    EXPECT_EQ(rights(u"LINKS"), "r");
+    EXPECT_EQ(rights(u"SECRET"), "w");
+    EXPECT_EQ(countedClass()->memberFind(u"HELD")->methodFunction, nullptr);
+}
+
+TEST_F(tableTest, attributesAreReadAndWritten) {
+    localSlot made;
+    call(nullptr, u"", nullptr, made);
+    localValueDescription number;
+    number.setVal(7.0);
+    const auto set = [&](const char16_t* name, const localValueDescription& value) {
+        int status = localErrorTypeOK;
+        const bool done = made->setAttr(status, nullptr, name, &value);
+        EXPECT_EQ(done, status == localErrorTypeOK);
+        return status;
+    };
+    localSlot result;
+    const auto get = [&](const char16_t* name) {
+        int status = localErrorTypeOK;
+        const bool done = made->getAttr(status, nullptr, name, result.asResult());
+        EXPECT_EQ(done, status == localErrorTypeOK);
+        return status;
+    };
+    EXPECT_EQ(set(u"held", number), 54);
+    EXPECT_EQ(get(u"Значение"), 54);
+    EXPECT_EQ(result->num, 7.0);
+    EXPECT_EQ(get(u"links"), 54);
+    EXPECT_EQ(result->num, 1.0);
+    EXPECT_EQ(set(u"links", number), 9);
+    EXPECT_EQ(get(u"secret"), 8);
+    EXPECT_EQ(set(u"secret", number), 33) << "a new value of a wrong type";
+    number.setVal(u"text");
+    EXPECT_EQ(set(u"secret", number), 54);
+    EXPECT_EQ(set(u"nosuch", number), 10);
+    EXPECT_EQ(get(u"nosuch"), 10);
+}
+
+TEST_F(tableTest, theAttributeFunctionsThemselvesKnowTheStatuses) {
+    localSlot made;
+    call(nullptr, u"", nullptr, made);
+    const localClassMember& held = *countedClass()->memberFind(u"HELD");
+    int status = localErrorTypeOK;
+    localSlot result;
+    EXPECT_FALSE(
+        held.attribGetFunction(status, nullptr, made->pointer, u"NOSUCH", result.asResult()));
+    EXPECT_EQ(status, 10);
+    EXPECT_EQ(utf8(result->toString()), "localErrorTypeATTRIBUTEunknown");
+    EXPECT_FALSE(
+        held.attribGetFunction(status, nullptr, made->pointer, u"SECRET", result.asResult()));
+    EXPECT_EQ(status, 8);
+    EXPECT_FALSE(held.attribSetFunction(status, nullptr, made->pointer, u"LINKS", result.get()));
+    EXPECT_EQ(status, 9);
+    localValueDescription cell;
+    localValueDescription* taken = &cell;
+    EXPECT_HALT(held.attribGetFunction(status, nullptr, made->pointer, u"HELD", taken),
+                "countedObject::classImplementationAttribGetFunction() result must be NULL!");
 }
 
 TEST_F(tableTest, aResultThatIsNotNullHaltsUnderTheNameOfTheClass) {

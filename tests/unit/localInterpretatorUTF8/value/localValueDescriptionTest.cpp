@@ -191,7 +191,7 @@ TEST_F(valueTest, resetKeepsClassAndPointer) {
     EXPECT_EQ(cell.objClass, countedClass());
     EXPECT_EQ(cell.pointer, object);
     EXPECT_FALSE(cell.isLive());
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
 }
 
 TEST_F(valueTest, assigningCopiesEveryKind) {
@@ -222,22 +222,22 @@ TEST_F(valueTest, anObjectCountsTheCellsThatHoldIt) {
     localValueDescription first;
     const countedObject* object = bindNew(first);
     EXPECT_TRUE(first.isLive());
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     EXPECT_EQ(first.objectLinks(), 1);
     {
         const localValueDescription copy(first);
-        EXPECT_EQ(object->links, 2);
+        EXPECT_EQ(object->linkCounter, 2);
     }
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     localValueDescription assigned;
     assigned.assign(first);
-    EXPECT_EQ(object->links, 2);
+    EXPECT_EQ(object->linkCounter, 2);
     localValueDescription taken;
     taken.take(assigned);
-    EXPECT_EQ(object->links, 2) << "taking changes no count";
+    EXPECT_EQ(object->linkCounter, 2) << "taking changes no count";
     EXPECT_EQ(assigned.type, localValueTypeNUMBER);
     first.setVal(1.0);
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     const std::int64_t alive = countedObject::alive;
     taken.setVal(u"gone");
     EXPECT_EQ(countedObject::alive, alive - 1);
@@ -281,9 +281,9 @@ TEST_F(valueTest, assigningTheSameObjectToACellThatSharesItKeepsTheCount) {
     const countedObject* object = bindNew(first);
     localValueDescription second(first);
     second.assign(first);
-    EXPECT_EQ(object->links, 2);
+    EXPECT_EQ(object->linkCounter, 2);
     second.assign(second);  // the count is above 1, so letting go does not destroy
-    EXPECT_EQ(object->links, 1) << "the cell reset itself before it copied itself";
+    EXPECT_EQ(object->linkCounter, 1) << "the cell reset itself before it copied itself";
     EXPECT_EQ(second.type, localValueTypeNUMBER);
 }
 
@@ -300,13 +300,13 @@ TEST_F(valueTest, bindingTheSameObjectOnlyChangesItsClass) {
     localValueDescription cell;
     countedObject* object = bindNew(cell);
     cell.objectBind(object, countedClass());
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     cell.objectBind(object, nullptr);
     EXPECT_EQ(cell.objClass, nullptr);
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     EXPECT_FALSE(cell.isLive());
     cell.objectBind(object, countedClass());
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
 }
 
 TEST_F(valueTest, objectsOfAClassWithoutLinkFunctionAreNeitherCountedNorDestroyed) {
@@ -347,9 +347,9 @@ TEST_F(valueTest, anObjectThatHoldsItselfIsNeverDestroyed) {
     localValueDescription cell;
     countedObject* object = bindNew(cell);
     object->held.assign(cell);
-    EXPECT_EQ(object->links, 2);
+    EXPECT_EQ(object->linkCounter, 2);
     cell.reset();
-    EXPECT_EQ(object->links, 1);
+    EXPECT_EQ(object->linkCounter, 1);
     const localValueDescription holder(object->held);
     object->held.reset();  // the cycle is opened by hand
 }

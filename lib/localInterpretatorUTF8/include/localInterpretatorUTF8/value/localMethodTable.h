@@ -1,12 +1,12 @@
-// A class of the language written down as a table: one row a method, with its names in both
-// languages, its argument pattern and the function that does the work.
+// A class of the language written down as a table: one row a method or attribute, with its names in
+// both languages, its argument pattern and the function that does the work.
 //
 // One shared piece of code checks the number and the types of arguments and sets the statuses, so
 // that a handler starts with arguments that are right. Listings, highlighting and the manual read
 // the same rows.
 //
-// An argument pattern has a letter an argument: s string, n number, b boolean, o object, v any
-// value.
+// An argument pattern has a letter an argument: s string, n number, i number that is a position,
+// b boolean, o object, l object of the class VALUELIST, t object of VALUETABLE, v any value.
 // "|" begins those that may be left out; "+" at the end lets the last one repeat; "?" alone leaves
 // the whole check to the handler.
 #pragma once
@@ -14,9 +14,13 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/value/localClassDeclaration.h"
+
+// Converts a number to an index by truncation toward zero; what no 32-bit index can hold becomes 0.
+std::uint32_t localIndex(double value);
 
 // What a handler is given. The result is a reserved slot holding the number 0; false must leave a
 // status.
@@ -29,6 +33,8 @@ struct localCall {
     localValueDescription& result;
 
     double number(std::size_t i) const { return args[i]->num; }
+    // A position counted from 1; 0, which is out of every range, for what can be none.
+    std::uint32_t index(std::size_t i) const { return localIndex(args[i]->num); }
     std::u16string_view text(std::size_t i) const { return args[i]->wStr; }
     bool fail(int code) {
         status = code;
@@ -56,7 +62,7 @@ struct localMethodRow {
     std::u16string_view english;
     std::u16string_view russian;  // empty where the method has none
     std::string_view arguments;
-    localHandler handler;
+    localHandler handler;  // null: the name is known, calling it answers status 27
 };
 
 // Stands in a row whose work lives in a library above, until that library fills the row: status 26.
@@ -86,17 +92,42 @@ private:
 };
 
 struct localAttributeRow {
-    std::u16string_view name;
-    localAttribGetFunction get;
-    localAttribSetFunction set;
+    std::u16string_view english;
+    std::u16string_view russian;   // empty where the attribute has none
+    localHandler get;              // puts the value in the call's result; null: not readable
+    localHandler set;              // gets the value as its one argument; null: not writeable
+    std::string_view value = "v";  // the argument pattern of a new value
 };
 
 // Checks arguments against a pattern: status 31 for a wrong count, then 33 for a wrong type.
 bool localArgumentsCheck(int& status, std::string_view pattern, localArguments args);
 
-// Converts an argument to an index by truncation toward zero; what no 32-bit index can hold becomes
-// 0, which is out of every range.
-std::uint32_t localIndex(double value);
+// Runs a handler on a call whose arguments fit the pattern. Status 27 where there is no handler, 31
+// and 33 for other arguments, and what the handler sets.
+bool localHandlerRun(localCall& call, std::string_view pattern, localHandler handler);
+
+// What a table needs to know of the native type behind a class.
+struct localNativeType {
+    void* (*construct)();           // a new object with count 0; null where a program makes none
+    void (*destroy)(void* object);  // of the last cell that held it
+    localLinkFunction link;         // null: objects are not counted and never destroyed
+};
+
+// Of a type whose objects count the cells that hold them in their member linkCounter. Programs make
+// objects of those that can be made of nothing.
+template <class Native>
+constexpr localNativeType localNativeOf() {
+    localNativeType type{};
+    if constexpr (std::is_default_constructible_v<Native>) {
+        type.construct = []() -> void* { return new Native; };
+    }
+    type.destroy = [](void* object) { delete static_cast<Native*>(object); };
+    type.link = [](void** object, std::int64_t delta) -> std::int64_t {
+        auto& counter = static_cast<Native*>(*object)->linkCounter;
+        return counter += static_cast<std::remove_reference_t<decltype(counter)>>(delta);
+    };
+    return type;
+}
 
 enum class localMemberNames { both, englishOnly };
 
@@ -105,9 +136,7 @@ struct localClassTable {
     std::u16string_view nameRus;
     std::u16string_view description;
     std::u16string_view nativeName;  // names the class in halts: "localValueList"
-    void* (*construct)();            // a new object with count 0; null where a program makes none
-    void (*destroy)(void* object);
-    localLinkFunction link;
+    localNativeType native;
     std::span<const localMethodRow> methods;
     std::span<const localAttributeRow> attributes;
     localMemberNames memberNames = localMemberNames::both;
@@ -121,9 +150,18 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
                       localContextUTF8* context, void*& object, std::u16string_view name,
                       const localArguments* args, localValueDescription*& result);
 
+// The attribute functions of such a class. A name that is no attribute gives status 10, one that
+// cannot be read 8, one that cannot be written 9, a new value of a wrong type 33.
+bool localTableAttributeGet(const localClassTable& table, int& status, localContextUTF8* context,
+                            void* object, std::u16string_view name, localValueDescription*& result);
+bool localTableAttributeSet(const localClassTable& table, int& status, localContextUTF8* context,
+                            void* object, std::u16string_view name,
+                            const localValueDescription* newValue);
+
 // Fills a declaration from its table.
 void localDeclareFromTable(localClassDeclaration& declaration, const localClassTable& table,
-                           localMethodFunction method);
+                           localMethodFunction method, localAttribGetFunction attributeGet,
+                           localAttribSetFunction attributeSet);
 
 // The declaration of a class that is a table. Made on first use, never destroyed.
 template <const localClassTable& table>
@@ -132,13 +170,21 @@ localClassDeclaration* localTableClass() {
         static localMethodRows rows(table.methods);
         auto* made = new localClassDeclaration;
         made->methodRows = &rows;
-        localDeclareFromTable(*made, table,
-                              [](int& status, localContextUTF8* context, void*& object,
-                                 std::u16string_view name, const localArguments* args,
-                                 localValueDescription*& result) {
-                                  return localTableMethod(table, localTableClass<table>(), status,
-                                                          context, object, name, args, result);
-                              });
+        localDeclareFromTable(
+            *made, table,
+            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+               const localArguments* args, localValueDescription*& result) {
+                return localTableMethod(table, localTableClass<table>(), status, context, object,
+                                        name, args, result);
+            },
+            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+               localValueDescription*& result) {
+                return localTableAttributeGet(table, status, context, object, name, result);
+            },
+            [](int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+               const localValueDescription* newValue) {
+                return localTableAttributeSet(table, status, context, object, name, newValue);
+            });
         return made;
     }();
     return declaration;

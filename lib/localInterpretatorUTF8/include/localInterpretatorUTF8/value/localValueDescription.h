@@ -171,4 +171,5 @@ std::u16string addressText(const void* address);
 
 // True when the value holds an object of a class with this English name. Equal names count, not
 // equal declarations.
+bool isClass(const localValueDescription& value, std::u16string_view nameEng);
 bool isClass(const localValueDescription& value, const localClassDeclaration& declaration);
