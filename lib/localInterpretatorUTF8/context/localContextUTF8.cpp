@@ -9,7 +9,6 @@
 #include "localInterpretatorUTF8/text/localRandom.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
-#include "localInterpretatorUTF8/value/localSlot.h"
 
 std::int64_t localContextUTF8::counterStaticTotal = 0;
 localContextUTF8* localContextUTF8::globalContext = nullptr;
@@ -36,13 +35,8 @@ void localContextUTF8::enter(localContextUTF8* parentContext) {
 
 localContextUTF8::~localContextUTF8() {
     for (const localVariableEntry& variable : variables_.entries()) {
-        localValueDescription& value = *variable.value;
-        if (value.linkCounter == 0) {
-            exit_FAILURE(u"Error!!!  linkCounter cannot be negative!");
-        }
         // The value goes whatever holders are left: leaving a scope empties its variables. Meant.
-        value.reset();
-        localValueDescription::release(&value);
+        variable.value->reset();
     }
     if (globalContext == this) {
         globalContext = nullptr;
@@ -85,18 +79,17 @@ localVariableEntry& localContextUTF8::varDeclare(std::u16string_view name) {
 }
 
 localVariableEntry& localContextUTF8::varDeclareUpper(const localText& upper, std::uint32_t hash) {
-    return variables_.add({upper, hash, localMemoryManager::manager->reserveSlot()});
+    return variables_.add({upper, hash, localSlot::reserve()});
 }
 
 void localContextUTF8::varRemove(std::size_t place) {
-    localValueDescription* value = variables_.entries()[place].value;
-    variables_.remove(place);
-    localValueDescription::release(value);
+    // The value goes when the name is gone: its object may look into the scope.
+    const localVariableEntry removed = variables_.remove(place);
 }
 
 void localContextUTF8::varRemoveAll() {
     while (!variables_.entries().empty()) {
-        localValueDescription::release(variables_.removeLast().value);
+        const localVariableEntry removed = variables_.removeLast();
     }
 }
 
@@ -105,8 +98,8 @@ std::u16string localContextUTF8::varDisplay(std::u16string_view name) {
     if (variable == nullptr) {
         return u"variable [" + std::u16string(name) + u"] not found!!! ";
     }
-    return u"[" + addressText(variable->value) + u"] var [" + variable->name.string() + u"] : " +
-           variable->value->dump();
+    return u"[" + addressText(variable->value.get()) + u"] var [" + variable->name.string() +
+           u"] : " + variable->value->dump();
 }
 
 std::u16string localContextUTF8::varToString(std::u16string_view name) {

@@ -553,8 +553,7 @@ bool scanStringGetArguments(int& status, const std::u16string& text, localPositi
         ArgumentList list;
         done = scanner.arguments<Mode::evaluate>(list);
         for (localValueDescription* value : list.values()) {
-            ++value->linkCounter;
-            args.emplace_back(value);
+            args.push_back(localSlot::share(*value));
         }
     }
     pos = scanner.cursor.position();

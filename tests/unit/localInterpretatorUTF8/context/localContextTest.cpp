@@ -243,7 +243,7 @@ TEST_F(contextTest, variablesKeepTheOrderOfTheirDeclaration) {
     std::vector<std::string> names;
     for (const localVariableEntry& entry : context.variables()) {
         names.push_back(utf8(entry.name));
-        EXPECT_EQ(context.varFind(entry.name)->value, entry.value);
+        EXPECT_EQ(context.varFind(entry.name)->value.get(), entry.value.get());
     }
     EXPECT_EQ(names, wanted);
 }
@@ -285,10 +285,9 @@ TEST_F(contextTest, leavingAScopeResetsAlsoWhatOthersHold) {
     localSlot kept;
     {
         localContextUTF8 context;
-        localValueDescription* value = context.varDeclare(u"x").value;
-        value->setVal(u"content");
-        ++value->linkCounter;
-        kept = localSlot(value);
+        localValueDescription& value = *context.varDeclare(u"x").value;
+        value.setVal(u"content");
+        kept = localSlot::share(value);
     }
     EXPECT_EQ(kept->linkCounter, 1U);
     EXPECT_EQ(kept->toString().view(), u"0");

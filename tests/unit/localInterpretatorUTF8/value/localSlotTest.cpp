@@ -43,6 +43,21 @@ TEST_F(localSlotTest, movingHandsTheLinkOn) {
     EXPECT_EQ(value->linkCounter, 1U);
 }
 
+TEST_F(localSlotTest, sharingTakesALinkOfItsOwn) {
+    const std::size_t before = used();
+    localSlot first = localSlot::reserve();
+    first->setVal(7.0);
+    localSlot second = localSlot::share(*first);
+    EXPECT_EQ(second.get(), first.get());
+    EXPECT_EQ(first->linkCounter, 2U);
+    EXPECT_EQ(used(), before + 1);
+    first.clear();
+    EXPECT_EQ(second->linkCounter, 1U);
+    EXPECT_EQ(second->num, 7.0) << "the value lives until the last link is given back";
+    second.clear();
+    EXPECT_EQ(used(), before);
+}
+
 TEST_F(localSlotTest, asResultIsEmptiedFirst) {
     const std::size_t before = used();
     localSlot slot = localSlot::reserve();

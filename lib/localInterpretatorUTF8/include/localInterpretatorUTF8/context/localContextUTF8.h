@@ -20,6 +20,7 @@
 #include "localInterpretatorUTF8/text/localText.h"
 #include "localInterpretatorUTF8/value/localClassDeclaration.h"
 #include "localInterpretatorUTF8/value/localLiveObject.h"
+#include "localInterpretatorUTF8/value/localSlot.h"
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 
 struct localOperatorCompiled;
@@ -35,7 +36,7 @@ struct localFunctionEntry {
 struct localVariableEntry {
     localText name;
     std::uint32_t hash = 0;
-    localValueDescription* value = nullptr;  // a slot, one link held
+    localSlot value;
 };
 
 class localContextUTF8 {

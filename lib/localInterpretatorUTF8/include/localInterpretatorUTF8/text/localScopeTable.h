@@ -41,11 +41,13 @@ public:
         return entries_.back();
     }
 
-    void remove(std::size_t place) {
+    Entry remove(std::size_t place) {
+        Entry removed = std::move(entries_[place]);
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(place));
         if (index_ != nullptr) {
             indexBuild();
         }
+        return removed;
     }
     Entry removeLast() {
         index_.reset();

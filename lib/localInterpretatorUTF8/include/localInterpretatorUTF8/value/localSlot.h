@@ -2,7 +2,10 @@
 //
 // Slots are shared by counting: every holder owns one link, and the value in a slot lives until the
 // last link is given back. Holding the link in an object makes "every path gives back what it took"
-// true by construction. Moved, never copied.
+// true by construction. Moved, never copied: a second link is asked for by name.
+//
+// Inside the libraries nothing else owns a slot. A plain pointer stands for one only where a call
+// hands its result over, and in the arguments of a call, whose links stay with the caller.
 #pragma once
 
 #include <utility>
@@ -16,6 +19,12 @@ public:
     explicit localSlot(localValueDescription* owned) noexcept : value_(owned) {}
     // The lowest free slot, holding the number 0. Halts the program when none is free.
     static localSlot reserve() { return localSlot(localMemoryManager::manager->reserveSlot()); }
+
+    // One more link on a slot that somebody holds.
+    static localSlot share(localValueDescription& held) noexcept {
+        ++held.linkCounter;
+        return localSlot(&held);
+    }
 
     localSlot(localSlot&& other) noexcept : value_(std::exchange(other.value_, nullptr)) {}
     localSlot& operator=(localSlot&& other) noexcept {
