@@ -9,8 +9,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include <functional>
-
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -18,6 +16,7 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 
 namespace {
 
@@ -109,7 +108,9 @@ QPalette greenOnBlack() {
 
 }  // namespace
 
-localConsole::localConsole(QWidget* parent)
+localConsole::localConsole(QWidget* parent) : localConsole(parent, localTurn::Hold()) {}
+
+localConsole::localConsole(QWidget* parent, const localTurn::Hold&)
     : QPlainTextEdit(parent),
       context_(contextOfConsole()),
       promptNormal_("localInterpretatorUTF8> "),
@@ -146,6 +147,7 @@ localConsole::~localConsole() {
     if (editor_ != nullptr) {
         editor_->window()->close();
     }
+    const localTurn::Hold turn;
     // Objects of the language may write when they go: this console is still whole enough to take
     // it.
     context_.reset();
@@ -162,7 +164,9 @@ void localConsole::cmdExec(const QString& command) {
         putOutputLine("Syntax ERROR: " + command);
         return;
     }
-    if (act(command) == localErrorTypeQUIT) {
+    int status = localErrorTypeOK;
+    underTurn([&] { status = act(command); });
+    if (status == localErrorTypeQUIT) {
         writeLine(u"Good bye!");
         window()->close();
     }
@@ -170,21 +174,31 @@ void localConsole::cmdExec(const QString& command) {
     putPrompt(PromptPlace::newBlock);
 }
 
-int localConsole::act(const QString& command) {
+void localConsole::underTurn(const std::function<void()>& work) {
     localCloseLater closeLater(window());
     if (thread_ != nullptr) {
-        // What a program under DEBUG is doing must not cross with the command. It may do it for
-        // ever, but closing the window ends it.
+        // The command comes behind what a program under DEBUG is doing. It may do it for ever, but
+        // closing the window ends it.
         closeLater.onAsked = [this] { thread_->programInterrupt(); };
         thread_->waitForStop();
         closeLater.onAsked = nullptr;
         if (closeLater.isAsked()) {
-            return localErrorTypeOK;
+            return;
         }
         // Its lines stand before those of the command. And its news are taken while what they point
         // to is sure to be there.
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
+    {
+        const localTurn::Hold turn;
+        work();
+    }
+    if (busy_) {
+        takeWaitingInput();
+    }
+}
+
+int localConsole::act(const QString& command) {
     if (command.startsWith("# ")) {
         inlineCalculation(
             command);  // and on with the same command, in which the language sees nothing
@@ -196,7 +210,6 @@ int localConsole::act(const QString& command) {
         localInterpretatorUTF8::scanStringGetOperatorAndExec(status, text, pos, context_.get(),
                                                              false);
     }
-    takeWaitingInput();
     return status;
 }
 
@@ -225,15 +238,10 @@ std::optional<QPoint> localConsole::windowPlace() const {
 
 void localConsole::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
-    settingsSave();
+    settingsWork_.ask([this] { settingsSave(); });
 }
 
 void localConsole::settingsSave() {
-    // The settings are a list of the language, and its slots belong to the worker while that runs.
-    settingsWait_ = thread_ != nullptr && thread_->isWorking();
-    if (settingsWait_) {
-        return;
-    }
     if (!settings_.geometrySave({window()->pos(), size()})) {
         traceLine(u"Error!!! Не удалось записать файл настроек!", "focusOutEvent");
     }

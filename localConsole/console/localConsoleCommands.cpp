@@ -216,13 +216,6 @@ void localConsole::commandDebug(const std::u16string& text) {
     connect(thread_.get(), &MyThread::toConsole, this, &localConsole::fromThread);
     connect(thread_.get(), &MyThread::toConsoleAsQString, this, &localConsole::fromThreadAsQString);
     connect(thread_.get(), &MyThread::operChanged, this, &localConsole::operChangedSlot);
-    const auto saveWaiting = [this] {
-        if (settingsWait_) {
-            settingsSave();
-        }
-    };
-    connect(thread_.get(), &MyThread::stopped, this, saveWaiting);
-    connect(thread_.get(), &QThread::finished, this, saveWaiting);
     connect(this, &localConsole::commandToThread, thread_.get(), &MyThread::fromConsole);
     editor_ = localDebugEditorShow(fileName, program);
     thread_->start(QThread::InheritPriority);
@@ -237,6 +230,7 @@ void localConsole::threadEnd() {
     thread_->programEnd();
     // Its last news point into the tree that goes with it.
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    const localTurn::Hold turn;
     thread_.reset();
 }
 

@@ -87,7 +87,7 @@ void localConsole::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_F1:
             if (plain) {
-                commandHelpAsPrg();
+                underTurn([this] { commandHelpAsPrg(); });
                 putOutputLine({});
             }
             return;

@@ -17,6 +17,7 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/text/localVclText.h"
 
 namespace {
@@ -89,6 +90,11 @@ localConsoleSettings::localConsoleSettings()
         list_ = localSlot::reserve();
         list_->objectBind(new localValueList, localValueList::classDeclaration());
     }
+}
+
+localConsoleSettings::~localConsoleSettings() {
+    const localTurn::Hold turn;
+    list_.clear();
 }
 
 const localValueList& localConsoleSettings::list() const {

@@ -15,6 +15,8 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
+#include "localVCL/window/localVclTurn.h"
 
 namespace {
 
@@ -29,9 +31,15 @@ void setApplicationFont() {
     QApplication::setFont(font);
 }
 
+// The event loop is no part of the language: whoever enters it from there asks for the turn.
+int eventsServe() {
+    const localTurn::Pause pause;
+    return QApplication::exec();
+}
+
 int runConsole(localCoutBuffer& buffer) {
     localConsoleStart(buffer);
-    return QApplication::exec();
+    return eventsServe();
 }
 
 // Runs one program without a console. No user reaches this: nobody gives a thousand words.
@@ -47,7 +55,7 @@ int runBatch(const std::string& name) {
     std::uint32_t pos = 0;
     localInterpretatorUTF8::scanStringGetOperatorAndExec(status, command, pos,
                                                          localApplicationContext(), false);
-    const int result = QApplication::topLevelWidgets().isEmpty() ? 0 : QApplication::exec();
+    const int result = QApplication::topLevelWidgets().isEmpty() ? 0 : eventsServe();
     if (status == localErrorTypeQUIT) {
         writeLine(u"Done!");
     }
@@ -78,6 +86,7 @@ int qMain(int argc, char* argv[]) {
     }
     // The application takes the user's locale for everything; numbers of the language do not.
     std::setlocale(LC_NUMERIC, "C");
+    localVclTurnInstall();
     setApplicationFont();
     localCoutBuffer buffer;
     std::streambuf* const before = std::cout.rdbuf();

@@ -9,6 +9,7 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace {
@@ -43,6 +44,7 @@ void MyThread::run() {
     }
     int status = localErrorTypeOK;
     if (!isInterruptionRequested()) {
+        const localTurn::Hold turn;
         call(status, text_, context_);
     }
     const QMutexLocker lock(&limitMutex_);
@@ -83,6 +85,7 @@ bool MyThread::execute(int& status, localContextUTF8* context, const localOperat
 }
 
 void MyThread::stop() {
+    const localTurn::Pause pause;
     QEventLoop loop;
     connect(this, &MyThread::toLoop, &loop, &QEventLoop::quit);
     state_ = State::atStop;
@@ -103,6 +106,7 @@ void MyThread::fromConsole(std::u16string line) {
 }
 
 void MyThread::waitForStop() {
+    const localTurn::Pause pause;
     QEventLoop wait;
     connect(this, &MyThread::stopped, &wait, &QEventLoop::quit);
     connect(this, &QThread::finished, &wait, &QEventLoop::quit);
@@ -123,6 +127,7 @@ void MyThread::programInterrupt() {
 }
 
 void MyThread::programEnd() {
+    const localTurn::Pause pause;
     programInterrupt();
     // The worker may be waiting for this thread to show something or to take a line.
     while (!wait(10)) {

@@ -14,7 +14,8 @@ QString textOf(const QUrl& link) {
 
 }  // namespace
 
-localConsoleHelpBrowser::localConsoleHelpBrowser(QWidget* parent) : QTextBrowser(parent) {
+localConsoleHelpBrowser::localConsoleHelpBrowser(QWidget* parent)
+    : QTextBrowser(parent), pages_(std::make_shared<localHelpPages>()) {
     setWindowIcon(localVclProgramIcon());
     // The pages' colours are made for white paper, whatever the desktop is like.
     QPalette paper = palette();
@@ -26,8 +27,13 @@ localConsoleHelpBrowser::localConsoleHelpBrowser(QWidget* parent) : QTextBrowser
     setHtml(localVclQString(notFound));
 }
 
+localConsoleHelpBrowser::~localConsoleHelpBrowser() {
+    // The pages are values of the language and go under its turn, be it later.
+    localVclTurnWork::askOnce([pages = std::move(pages_)] {});
+}
+
 bool localConsoleHelpBrowser::parseHelpFromJson(const std::u16string& text) {
-    return pages_.parseHelpFromJson(text);
+    return pages_->parseHelpFromJson(text);
 }
 
 void localConsoleHelpBrowser::pageShow(const std::u16string& html, const std::u16string& pageKey) {
@@ -38,33 +44,40 @@ void localConsoleHelpBrowser::pageShow(const std::u16string& html, const std::u1
 }
 
 void localConsoleHelpBrowser::goTo(const std::u16string& pageKey) {
-    const std::u16string html = pages_.page(pageKey);
-    if (!html.empty()) {
-        pageShow(html, pageKey);
+    turnWork_.ask([this, pageKey] {
+        const std::u16string html = pages_->page(pageKey);
+        if (!html.empty()) {
+            pageShow(html, pageKey);
+            return;
+        }
+        pageShow(notFound, u"#404");
+        pageShow(pages_->allPages(), u"#allPages");
+        activateWindow();
+    });
+}
+
+// The page before the present one is taken off too: going there enters it again. From the list that
+// stands for a missing page the way back leads to that page, and so to the list. Meant.
+void localConsoleHelpBrowser::goBack() {
+    constexpr std::size_t fewestForBack = 4;
+    if (history_.size() < fewestForBack) {
         return;
     }
-    pageShow(notFound, u"#404");
-    pageShow(pages_.allPages(), u"#allPages");
-    activateWindow();
+    history_.pop_back();
+    const std::u16string before = history_.back();
+    history_.pop_back();
+    goTo(before);
 }
 
 void localConsoleHelpBrowser::onAnchorClicked(const QUrl& link) {
     const QString text = textOf(link);
-    goTo(pages_.keyOfLink(localVclText(text)));
+    goTo(pages_->keyOfLink(localVclText(text)));
 }
 
 void localConsoleHelpBrowser::keyPressEvent(QKeyEvent* event) {
-    constexpr std::size_t fewestForBack = 4;
     if (event->key() != Qt::Key_Backspace) {
         QTextBrowser::keyPressEvent(event);
         return;
     }
-    // The page before the present one is taken off too: going there enters it again. From the list
-    // that stands for a missing page the way back leads to that page, and so to the list. Meant.
-    if (history_.size() >= fewestForBack) {
-        history_.pop_back();
-        const std::u16string before = history_.back();
-        history_.pop_back();
-        goTo(before);
-    }
+    turnWork_.ask([this] { goBack(); });
 }

@@ -1,6 +1,7 @@
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 
 #include <algorithm>
+#include <cassert>
 #include <ctime>
 
 #include "context/localStartClasses.h"
@@ -8,6 +9,7 @@
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localRandom.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 
 std::int64_t localContextUTF8::counterStaticTotal = 0;
@@ -27,6 +29,7 @@ localContextUTF8::localContextUTF8(localContextUTF8* parentContext) {
 }
 
 void localContextUTF8::enter(localContextUTF8* parentContext) {
+    assert(localTurn::isHeld());
     ++counterStaticTotal;
     parent_ = parentContext;
     int status = localErrorTypeOK;
@@ -34,6 +37,7 @@ void localContextUTF8::enter(localContextUTF8* parentContext) {
 }
 
 localContextUTF8::~localContextUTF8() {
+    assert(localTurn::isHeld());
     for (const localVariableEntry& variable : variables_.entries()) {
         // The value goes whatever holders are left: leaving a scope empties its variables. Meant.
         variable.value->reset();

@@ -1,3 +1,5 @@
+#include <cassert>
+
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
@@ -5,6 +7,7 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localStackGuard.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/tree/localOperatorCompiled.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
@@ -187,6 +190,7 @@ bool whileLoop(const Run& run) {
 bool localOperatorCompiled::execute(int& status, localContextUTF8* context,
                                     const localOperatorCompiled& node, const localArguments& args,
                                     localValueDescription*& result) {
+    assert(localTurn::isHeld());
     if (result != nullptr) {
         exit_FAILURE(u"localOperatorCompiled::execute() result must be NULL!");
     }

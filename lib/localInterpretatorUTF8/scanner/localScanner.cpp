@@ -1,6 +1,7 @@
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 
 #include <array>
+#include <cassert>
 #include <new>
 #include <type_traits>
 
@@ -10,6 +11,7 @@
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localStackGuard.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "scanner/localCursor.h"
 
 namespace localInterpretatorUTF8 {
@@ -465,6 +467,7 @@ bool scanned(int& status, Scanner& scanner, localPosition& pos, localValueDescri
 bool scanStringGetExpressionAndEvaluete(int& status, const std::u16string& text, localPosition& pos,
                                         localValueDescription*& result, localContextUTF8* context,
                                         bool onlyCheck) {
+    assert(localTurn::isHeld());
     requireNull(result, u"scanStringGetExpressionAndEvaluete");
     requireContext(context, onlyCheck, u"scanStringGetExpressionAndEvaluete");
     Scanner scanner(status, text, pos, context);

@@ -1,9 +1,11 @@
 #include "localInterpretatorUTF8/value/localClassDeclaration.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 std::int64_t localClassDeclaration::counterStaticTotal = 0;
@@ -35,6 +37,7 @@ void localClassDeclaration::memberAdd(localClassMember member) {
 bool localClassDeclaration::methodExec(int& status, localContextUTF8* context, void*& object,
                                        std::u16string_view name, const localArguments* args,
                                        localValueDescription*& result) {
+    assert(localTurn::isHeld());
     const localUpperName upper(name);
     if (result != nullptr) {
         exit_FAILURE(u"localClassDeclaration::methodExec() result must be NULL!");
@@ -57,6 +60,7 @@ bool localClassDeclaration::methodExec(int& status, localContextUTF8* context, v
 
 bool localClassDeclaration::attrGet(int& status, localContextUTF8*, void*& object,
                                     std::u16string_view name, localValueDescription*& result) {
+    assert(localTurn::isHeld());
     if (result != nullptr) {
         exit_FAILURE(u"localClassDeclaration::attrGet() result must be NULL!");
     }
@@ -84,6 +88,7 @@ bool localClassDeclaration::attrGet(int& status, localContextUTF8*, void*& objec
 bool localClassDeclaration::attrSet(int& status, localContextUTF8* context, void*& object,
                                     std::u16string_view name,
                                     const localValueDescription* newValue) {
+    assert(localTurn::isHeld());
     const localClassMember* member = memberFind(name);
     if (member == nullptr) {
         status = localErrorTypeATTRIBUTEWRONG;

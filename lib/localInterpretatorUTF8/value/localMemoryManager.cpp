@@ -1,6 +1,7 @@
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 
 #include <bit>
+#include <cassert>
 #include <iostream>
 #include <new>
 #include <sstream>
@@ -9,6 +10,7 @@
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localCounters.h"
 
 localMemoryManager* localMemoryManager::manager = nullptr;
@@ -70,6 +72,7 @@ void localMemoryManager::mark(std::size_t index, bool free) {
 }
 
 localValueDescription* localMemoryManager::reserveSlot() {
+    assert(localTurn::isHeld());
     if (slots_ == nullptr) {
         build();
     }
@@ -98,6 +101,7 @@ localValueDescription* localMemoryManager::reserveSlot() {
 }
 
 void localMemoryManager::slotFreed(const localValueDescription* slot) {
+    assert(localTurn::isHeld());
     --used_;
     mark(static_cast<std::size_t>(slot - slots_), true);
 }

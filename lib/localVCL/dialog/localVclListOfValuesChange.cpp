@@ -16,6 +16,7 @@
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/text/localVclText.h"
 
 namespace {
@@ -159,8 +160,21 @@ QWidget* DemoDialogForListOfValuesChange::boxOf(bool ticked, Write& write) {
     return box;
 }
 
+DemoDialogForListOfValuesChange::~DemoDialogForListOfValuesChange() {
+    // The list may go with the dialog's link.
+    const localTurn::Hold turn;
+    list_.reset();
+}
+
 void DemoDialogForListOfValuesChange::applied1Slot() {
     traceLine(u"applied1Slot", NUME);
+    writeChanges();
+    emit applied();
+    emit applied1(this);
+}
+
+void DemoDialogForListOfValuesChange::writeChanges() {
+    const localTurn::Hold turn;
     localValueList* const values = localValueList::of(list_);
     // The list may have become shorter since.
     for (std::size_t i = 0; i < writes_.size() && i < values->size(); ++i) {
@@ -168,8 +182,6 @@ void DemoDialogForListOfValuesChange::applied1Slot() {
             writes_[i](values->valueAt(i + 1));
         }
     }
-    emit applied();
-    emit applied1(this);
 }
 
 void DemoDialogForListOfValuesChange::okSlot() {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "localInterpretatorUTF8/context/localContextUTF8.h"
+#include "localInterpretatorUTF8/library/localLibrary.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localVCL/text/localVclText.h"
 
@@ -105,14 +105,11 @@ void paintString(QStringView line, QChar quote, QVarLengthArray<Kind, 256>& kind
 }  // namespace
 
 std::vector<std::u16string> localVclPrgTextFunctionNames() {
-    // The functions are entries of the global context: the fresh one itself where none stands yet.
-    const localContextUTF8 fresh;
     std::vector<std::u16string> names;
-    for (const localContextUTF8* context = &fresh; context != nullptr;
-         context = context->parent()) {
-        for (const localFunctionEntry& function : context->functions()) {
-            if (function.nativeFunction != nullptr) {
-                names.push_back(function.name.string());
+    for (const localMethodRow& row : localLibrary::rows()) {
+        for (const std::u16string_view name : {row.english, row.russian}) {
+            if (!name.empty()) {
+                names.emplace_back(name);
             }
         }
     }

@@ -13,6 +13,7 @@
 #include "localVCL/editor/localDialogFindString.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
 #include "localVCL/text/localVclText.h"
+#include "localVCL/window/localVclOnWindowThread.h"
 
 void localVclWidgetEditor::findText(const QString& text, QTextDocument::FindFlags flags) {
     const QTextCursor cursor = textCursor();
@@ -87,19 +88,26 @@ void proceduresCollect(const QTextDocument& document, localValueTable& table) {
 }  // namespace
 
 void localVclWidgetEditor::gotoProcedureSlot() {
-    localValueTable procedures;
-    proceduresCollect(*document(), procedures);
-    QStringList lines;
-    for (std::size_t row = 0; row < procedures.rowsCount(); ++row) {
-        lines.append(localVclQString(procedures.cell(row, columnText).wStr));
-    }
-    int chosen = 0;
-    if (!localVclQStringListGetItem(QStringLiteral("Выберите (процедуры и функции):"), lines,
-                                    chosen) ||
-        chosen < 0) {
-        return;
-    }
-    // By its text: of lines that read alike the first is shown, whichever was chosen. Meant.
-    const auto row = static_cast<std::size_t>(lines.indexOf(lines.at(chosen)));
-    lineShow(static_cast<int>(procedures.cell(row, columnLine).num));
+    turnWork_.ask([this] {
+        localValueTable procedures;
+        proceduresCollect(*document(), procedures);
+        QStringList lines;
+        for (std::size_t row = 0; row < procedures.rowsCount(); ++row) {
+            lines.append(localVclQString(procedures.cell(row, columnText).wStr));
+        }
+        // The window may close over the list when a program ends meanwhile.
+        const QPointer<localVclWidgetEditor> stands(this);
+        int chosen = 0;
+        bool accepted = false;
+        localVclAskOnWindowThread([&] {
+            accepted = localVclQStringListGetItem(QStringLiteral("Выберите (процедуры и функции):"),
+                                                  lines, chosen);
+        });
+        if (!accepted || chosen < 0 || stands.isNull()) {
+            return;
+        }
+        // By its text: of lines that read alike the first is shown, whichever was chosen. Meant.
+        const auto row = static_cast<std::size_t>(lines.indexOf(lines.at(chosen)));
+        lineShow(static_cast<int>(procedures.cell(row, columnLine).num));
+    });
 }

@@ -119,7 +119,7 @@ localReport::Button localVclHost::report(const localReport& report) {
         return localHost::report(report);
     }
     localReport::Button pressed = report.defaultButton;
-    localVclOnWindowThread([&] { pressed = runBox(report); });
+    localVclAskOnWindowThread([&] { pressed = runBox(report); });
     return pressed;
 }
 
@@ -127,7 +127,7 @@ bool localVclHost::showMessage(const localReport& message) {
     if (!hasScreen()) {
         return false;
     }
-    localVclOnWindowThread([&] {
+    localVclAskOnWindowThread([&] {
         localVclMessageShow(localVclQString(message.text), localVclQString(message.title), 0,
                             iconOf(message.kind));
     });
@@ -138,6 +138,7 @@ void localVclHost::haltBox(std::u16string_view title, std::u16string_view text) 
     if (!hasScreen()) {
         return;
     }
+    // Lent and not given up: nobody else shall come into a language that has a defect.
     localVclOnWindowThread([&] {
         runBox({.kind = localReport::Kind::critical,
                 .title = std::u16string(title),
@@ -157,7 +158,7 @@ std::optional<std::size_t> localVclHost::chooseRow(std::u16string_view title,
         texts.append(localVclQString(line));
     }
     std::size_t chosen = 0;
-    localVclOnWindowThread([&] {
+    localVclAskOnWindowThread([&] {
         int row = static_cast<int>(startRow) - 1;
         if (localVclQStringListGetItem(localVclQString(title), texts, row)) {
             chosen = static_cast<std::size_t>(row + 1);
@@ -171,7 +172,7 @@ std::optional<std::u16string> localVclHost::chooseDate(std::u16string_view start
         return std::nullopt;
     }
     std::u16string chosen;
-    localVclOnWindowThread([&] {
+    localVclAskOnWindowThread([&] {
         const localVclArrowCursor arrow;
         localCalendar calendar(localCalendar::dateOf(localVclQString(start)),
                                QApplication::activeWindow());
@@ -192,7 +193,7 @@ std::u16string localVclHost::chooseFile(std::u16string_view title, std::u16strin
         shown.append(localVclQString(filter));
     }
     std::u16string chosen;
-    localVclOnWindowThread([&] {
+    localVclAskOnWindowThread([&] {
         const localVclArrowCursor arrow;
         chosen =
             QFileDialog::getOpenFileName(QApplication::activeWindow(), localVclQString(title),
@@ -226,7 +227,9 @@ bool localVclHost::openEditor(std::u16string_view fileName,
     if (!hasScreen()) {
         return false;
     }
-    localVclOnWindowThread([&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
+    // It may ask for a file.
+    localVclAskOnWindowThread(
+        [&] { localVclWidgetEditor::open(std::u16string(fileName), codePage); });
     return true;
 }
 

@@ -12,11 +12,13 @@
 #include <clocale>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "localConsole/console/localConsole.h"
 #include "localConsole/console/localCoutBuffer.h"
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 #include "localVCL/host/localVclHost.h"
 #include "localVCL/text/localVclText.h"
@@ -59,7 +61,8 @@ inline void type(QWidget& widget, const QString& text) {
 }
 
 // Each test has an empty folder as the working directory, in which the process counts as started,
-// and no console yet.
+// and no console yet. As in the program, nobody is in the language while events are served: a test
+// that enters it by itself takes a localTurn::Hold.
 class test : public QObject {
     Q_OBJECT
 
@@ -69,6 +72,7 @@ protected:
     std::unique_ptr<localCoutBuffer> buffer_;
     std::unique_ptr<localConsole> console_;
     std::streambuf* before_ = nullptr;
+    std::optional<localTurn::Pause> pause_;
     QStringList output_;    // what was written since start(), line by line
     QStringList starting_;  // what the making of the console wrote
 
@@ -129,6 +133,7 @@ private slots:
 
 protected slots:
     void init() {
+        pause_.emplace();
         localHost::install(&host_);
         host_.calls.clear();
         host_.reports.clear();
@@ -146,6 +151,7 @@ protected slots:
             }
         }
         QVERIFY(QApplication::activeModalWidget() == nullptr);
+        pause_.reset();
     }
 };
 

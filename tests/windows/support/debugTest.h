@@ -27,6 +27,7 @@ protected:
 
     // The text of a variable, without the language; empty when there is none.
     QString variable(const char16_t* name) {
+        const localTurn::Hold turn;
         return shown().context()->varFind(name) == nullptr
                    ? QString()
                    : QString::fromStdU16String(shown().context()->varToString(name));

@@ -15,13 +15,16 @@
 #include <QTextCharFormat>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "localConsole/console/localConsoleHistory.h"
 #include "localConsole/console/localConsoleSettings.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
+#include "localVCL/window/localVclTurn.h"
 
 class MyThread;
 class localContextUTF8;
@@ -81,8 +84,8 @@ public slots:
     void operChangedSlot(const localOperatorCompiled* node);
 
 protected:
-    // Writes the window's geometry into the settings, now or as soon as a program under DEBUG
-    // stops.
+    // Writes the window's geometry into the settings, now or as soon as the language's turn is
+    // free.
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -92,6 +95,11 @@ protected:
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    localConsole(QWidget* parent, const localTurn::Hold& turn);
+
+    // Does the work under the language's turn, when a program under DEBUG has come to its next
+    // stop. Not at all when the window is asked to close before.
+    void underTurn(const std::function<void()>& work);
     // Runs a command, by the console's own words or in the language. Gives the status it left.
     int act(const QString& command);
     // Acts on a command that begins with one of the console's own words; false for any other.
@@ -131,7 +139,7 @@ private:
     QTextCharFormat outputFormat_;
     std::unique_ptr<localPaintRate> paintRate_;
     localConsoleSettings settings_;
-    bool settingsWait_ = false;  // to be saved when the program under DEBUG stops
+    localVclTurnWork settingsWork_;
     localConsoleHistory history_;
     std::array<QString, 12> keyCommands_;
     QPointer<localVclWidgetEditor> editor_;

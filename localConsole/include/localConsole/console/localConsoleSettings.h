@@ -1,7 +1,7 @@
 // What the console remembers between starts: the place and size of its window, and the commands of
 // the function keys where a person has named them. The file localConsole.ini lies in the folder
 // where the process was started and holds a value list as JSON; a plain JSON object of keys and
-// values does as well.
+// values does as well. That list is a value of the language: all this is done under its turn.
 #pragma once
 
 #include <QRect>
@@ -20,6 +20,9 @@ public:
     // Reads the file. One that is missing or cannot be read gives no settings, and a line tells
     // why.
     localConsoleSettings();
+    ~localConsoleSettings();
+    localConsoleSettings(const localConsoleSettings&) = delete;
+    localConsoleSettings& operator=(const localConsoleSettings&) = delete;
 
     // The file's text as it was read.
     const std::u16string& text() const { return text_; }

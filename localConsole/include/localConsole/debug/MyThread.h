@@ -2,9 +2,9 @@
 // statement until the person types STEP.
 //
 // The statement engine knows nothing of this: the tree's nodes carry MyThread::execute, which
-// stops, and then runs the node as ever. While the worker stands in its event loop nobody touches
-// the context, so the console may look and assign there; while it runs, the console waits with the
-// next command (waitForStop). That alternation is the whole exclusion, there is no lock.
+// stops, and then runs the node as ever. The worker has the turn of the language (localTurn) while
+// a statement works and gives it up at a stop, so the console may look and assign there; while it
+// works, the console waits with the next command (waitForStop).
 //
 // The object belongs to the windows' thread. It keeps the compiled tree as long as it lives, since
 // signals on their way carry pointers into it.
@@ -41,17 +41,18 @@ public:
     static bool execute(int& status, localContextUTF8* context, const localOperatorCompiled& node,
                         const localArguments& args, localValueDescription*& result);
 
-    // Whether the worker has the language for itself: it runs and stands at no stop. Once false it
-    // stays so until the windows' thread lets the worker go on.
+    // Whether the worker runs and stands at no stop. Once false it stays so until the windows'
+    // thread lets the worker go on.
     bool isWorking() const { return state_ == State::working && isRunning(); }
-    // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile.
+    // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile, and
+    // the turn is given up.
     void waitForStop();
     // Makes the program fail at its present stop, or wherever it works, without a line: a thread
     // that is asked for its interruption has nothing more to say (localCoutBuffer). Comes back at
     // once.
     void programInterrupt();
     // Interrupts the program and waits for the worker. Windows are painted meanwhile, and answer
-    // what the program asks.
+    // what the program asks; the turn is given up.
     void programEnd();
 
 signals:

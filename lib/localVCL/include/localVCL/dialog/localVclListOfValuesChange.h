@@ -24,9 +24,11 @@ public:
     static constexpr const char* NUME = "DemoDialogForListOfValuesChange";
 
     // `list` is a value that holds a value list; the dialog keeps one more link on it. Any other
-    // value gives a dialog without rows.
+    // value gives a dialog without rows. Made under the language's turn; asks for it by itself when
+    // it writes, so it may run where the turn is given up.
     DemoDialogForListOfValuesChange(const QString& title, const localValueDescription& list,
                                     QWidget* parent = nullptr);
+    ~DemoDialogForListOfValuesChange() override;
 
 signals:
     // The changes are in the list.
@@ -41,6 +43,7 @@ private:
     // Writes what a field holds into its item, when a person has changed it.
     using Write = std::function<void(localValueDescription&)>;
 
+    void writeChanges();
     QWidget* fieldOf(const localValueDescription& value, Write& write);
     QWidget* lineOf(const QString& text, bool isNumber, Write& write);
     QWidget* boxOf(bool ticked, Write& write);

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "localInterpretatorUTF8/text/localString.h"
+#include "localVCL/window/localVclTurn.h"
 #include "localVCL/window/localVclWindow.h"
 
 class localVclPrgTextHighlighter;
@@ -75,6 +76,8 @@ public slots:
     void findText(const QString& text, QTextDocument::FindFlags flags);
     void findTextSlot();
     void findTextNextSlot();
+    // Shows the list of procedures and functions, and goes to the one chosen. The list comes later
+    // when another thread is in the language.
     void gotoProcedureSlot();
     // Reads a file; a person is asked for one when it is not there. False with the text left as it
     // was when nothing was chosen or the file could not be read, which the standard output stream
@@ -127,4 +130,5 @@ private:
     std::vector<std::size_t> carriageReturns_;
     std::size_t lossAgreed_ = 0;  // characters that a person has agreed to lose
     QPointer<QWidget> openedWindow_;
+    localVclTurnWork turnWork_;
 };
