@@ -42,6 +42,11 @@ if(KORVO_SANITIZE)
     target_link_options(korvo_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(KORVO_THREADS)
+    target_compile_options(korvo_flags INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(korvo_flags INTERFACE -fsanitize=thread)
+endif()
+
 # Objects hold machine code beside the optimizer's form, so that the many test programs link in the
 # plain way while the programs for the user, and the benchmarks, are optimized whole.
 set(KORVO_LTO_ACTIVE OFF)

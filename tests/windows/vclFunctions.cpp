@@ -13,6 +13,7 @@
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/host/localVclHost.h"
 #include "localVCL/picture/localVclPicture.h"
@@ -234,8 +235,11 @@ private slots:
             shownOn = QThread::currentThread();
             QTest::keyClick(dialog, Qt::Key_Return);
         });
-        const std::unique_ptr<QThread> program(
-            QThread::create([&] { status = act(QStringLiteral("MESSAGEBOX(\"x\")")); }));
+        const localTurn::Pause pause;
+        const std::unique_ptr<QThread> program(QThread::create([&] {
+            const localTurn::Hold turn;
+            status = act(QStringLiteral("MESSAGEBOX(\"x\")"));
+        }));
         program->start();
         QTRY_VERIFY(program->isFinished());
         QVERIFY(answer.given());
