@@ -125,7 +125,7 @@ QSemaphore mayEnd;
 bool networkWait(localCall& call) {
     if (call.text(1) == u"long") {
         worksLong.release();
-        mayEnd.acquire();
+        mayEnd.tryAcquire(1, longest);
     } else {
         const localTurn::Pause pause;
         QEventLoop answer;
