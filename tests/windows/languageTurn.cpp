@@ -373,6 +373,24 @@ private slots:
         QTRY_COMPARE(tables(), before);
     }
 
+    void workOfAWindowThatHasGoneIsForgotten() {
+        QVERIFY(workLong());
+        QStringList done;
+        {
+            localVclTurnWork gone;
+            gone.ask([&] { done.append("gone"); });
+        }
+        localVclTurnWork stays;
+        stays.ask([&] { done.append("first"); });
+        stays.ask([&] { done.append("second"); });
+        localVclTurnWork::askOnce([&] { done.append("once"); });
+        QVERIFY(done.isEmpty());
+        QVERIFY(endLong());
+        QTRY_COMPARE(done.size(), 2);
+        QVERIFY(done.contains("second"));
+        QVERIFY(done.contains("once"));
+    }
+
     // --- commands
 
     void commandWaitsForTheStatement() {
