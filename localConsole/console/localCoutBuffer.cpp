@@ -5,6 +5,8 @@
 
 #include <cstring>
 
+#include "localVCL/window/localVclOnWindowThread.h"
+
 namespace {
 constexpr int mostLinesAhead = 500;
 }
@@ -52,7 +54,6 @@ void localCoutBuffer::lineEnd(Writer& writer) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     } else if (++writer.linesAhead == mostLinesAhead) {
         writer.linesAhead = 0;
-        QMetaObject::invokeMethod(
-            this, [] {}, Qt::BlockingQueuedConnection);
+        localVclSendToWindowThread([] {});
     }
 }

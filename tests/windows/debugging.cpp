@@ -210,7 +210,7 @@ private slots:
         QTRY_VERIFY(QFile::exists("localConsole.ini"));
         QVERIFY(QFile::remove("localConsole.ini"));
         shown().thread()->fromConsole(u"STEP");
-        QVERIFY(shown().thread()->isWorking());
+        QVERIFY(workerHasTheTurn());
         QFocusEvent lost(QEvent::FocusOut);
         QCoreApplication::sendEvent(&shown(), &lost);
         // The list of settings takes slots, which are the worker's now.

@@ -1,7 +1,6 @@
 // Windows beside a program under DEBUG: one thread at a time is in the language, and nobody hangs.
 #include <QCalendarWidget>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPainter>
 #include <QSemaphore>
@@ -190,18 +189,6 @@ class languageTurn : public debugTest {
         return QTest::qWaitFor([this] { return !shown().thread()->isWorking(); }, longest) &&
                variable(u"x") == "200";
     }
-    // Waits until the worker has the turn, without taking events.
-    static bool isTaken() {
-        QElapsedTimer waited;
-        waited.start();
-        while (localTurn::Attempt()) {
-            if (waited.elapsed() > longest) {
-                return false;
-            }
-            QThread::yieldCurrentThread();
-        }
-        return true;
-    }
 
 private slots:
     void init() {
@@ -306,7 +293,7 @@ private slots:
                                     u"ENDFUNCTION;\n";
         debug("x = fib(25);\na = 1;\n");
         shown().thread()->fromConsole(u"STEP");
-        QVERIFY(isTaken());
+        QVERIFY(workerHasTheTurn());
         for (int i = 0; i < most; ++i) {
             localVclWidgetEditor editor(u"other.prg", text);
             QCOMPARE(editor.blockCount(), 5);
@@ -421,7 +408,7 @@ private slots:
         debug("x = FORMOPEN(\"\");\na = 1;\n");
         shown().thread()->fromConsole(u"STEP");
         // By the turn alone, without the console's look at stops. The worker must have it first.
-        QVERIFY(isTaken());
+        QVERIFY(workerHasTheTurn());
         const localTurn::Hold turn;
         QCOMPARE(variable(u"x"), QString("55"));
         QCOMPARE(output_.count("window"), linesOfAWindow);

@@ -1,33 +1,16 @@
 #include "localVCL/window/localVclTurn.h"
 
-#include <QEventLoop>
-
 #include <utility>
 
 #include "localInterpretatorUTF8/thread/localTurn.h"
-#include "window/localVclTurnWindows.h"
-
-localVclTurnWindows& localVclTurnWindows::instance() {
-    static localVclTurnWindows only;
-    return only;
-}
-
-void localVclTurnWindows::wait() {
-    QEventLoop loop;
-    connect(this, &localVclTurnWindows::becameFree, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-void localVclTurnWindows::freed() {
-    QMetaObject::invokeMethod(this, &localVclTurnWindows::becameFree, Qt::QueuedConnection);
-}
+#include "window/localVclWindowThread.h"
 
 void localVclTurnInstall() {
-    localTurn::windowsInstall(&localVclTurnWindows::instance());
+    localTurn::windowsInstall(&localVclWindowThread::instance());
 }
 
 localVclTurnWork::localVclTurnWork(QObject* parent) : QObject(parent) {
-    connect(&localVclTurnWindows::instance(), &localVclTurnWindows::becameFree, this,
+    connect(&localVclWindowThread::instance(), &localVclWindowThread::becameFree, this,
             &localVclTurnWork::attempt);
 }
 
@@ -37,7 +20,7 @@ void localVclTurnWork::ask(std::function<void()> work) {
 }
 
 void localVclTurnWork::askOnce(std::function<void()> work) {
-    auto* const own = new localVclTurnWork(&localVclTurnWindows::instance());
+    auto* const own = new localVclTurnWork(&localVclWindowThread::instance());
     own->ask([own, work = std::move(work)] {
         own->deleteLater();
         work();

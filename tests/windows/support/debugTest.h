@@ -2,6 +2,7 @@
 // DEBUG.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
 
 #include "consoleTest.h"
@@ -100,6 +101,19 @@ protected:
         }
         disconnect(connection);
         return stopped == 1;
+    }
+    // Waits, without taking events, until the worker is in the language.
+    static bool workerHasTheTurn() {
+        constexpr int longest = 20000;  // milliseconds
+        QElapsedTimer waited;
+        waited.start();
+        while (localTurn::Attempt()) {
+            if (waited.elapsed() > longest) {
+                return false;
+            }
+            QThread::yieldCurrentThread();
+        }
+        return true;
     }
     bool isOutput(const QString& start) {
         return !output_.filter(QRegularExpression("^" + QRegularExpression::escape(start)))

@@ -8,41 +8,18 @@
 //                              dialog. The turn is given up until it is done, so the work may touch
 //                              nothing of the language without asking for the turn itself.
 // On the windows' thread itself the work is done at once, and the turn is kept or given up just so.
+// There must be an application.
 #pragma once
 
-#include <QCoreApplication>
-#include <QMetaObject>
-#include <QThread>
+#include <functional>
 
-#include "localInterpretatorUTF8/thread/localTurn.h"
+void localVclOnWindowThread(const std::function<void()>& work);
+void localVclAskOnWindowThread(const std::function<void()>& work);
 
-inline bool localVclIsWindowThread() {
-    return QThread::currentThread() == qApp->thread();
-}
+// For a thread that is not that of the windows: the work is done over there when its event loop
+// comes to it, behind what was posted before, and is done when this returns. The turn stays as it
+// is.
+void localVclSendToWindowThread(const std::function<void()>& work);
 
-// Runs `work` on the windows' thread and comes back when it is done. There must be an application.
-template <typename Work>
-void localVclOnWindowThread(const Work& work) {
-    if (localVclIsWindowThread()) {
-        work();
-        return;
-    }
-    const localTurn::Loan loan;
-    QMetaObject::invokeMethod(
-        qApp,
-        [&] {
-            const localTurn::Loan::Use lent(loan);
-            work();
-        },
-        Qt::BlockingQueuedConnection);
-}
-
-template <typename Work>
-void localVclAskOnWindowThread(const Work& work) {
-    const localTurn::Pause pause;
-    if (localVclIsWindowThread()) {
-        work();
-    } else {
-        QMetaObject::invokeMethod(qApp, work, Qt::BlockingQueuedConnection);
-    }
-}
+// Whether the calling thread is that of the windows.
+bool localVclIsWindowThread();
