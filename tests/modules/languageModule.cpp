@@ -73,7 +73,7 @@ struct Kept {
     Kept(const Kept&) = delete;
     Kept& operator=(const Kept&) = delete;
 
-    std::int64_t links = 0;
+    std::int64_t linkCounter = 0;
     localValueDescription value;
 };
 
@@ -98,11 +98,7 @@ constexpr localClassTable keptTable = {
     .nameRus = u"V77",
     .description = u"класс модуля",
     .nativeName = u"Kept",
-    .construct = []() -> void* { return new Kept; },
-    .destroy = [](void* object) { delete static_cast<Kept*>(object); },
-    .link = [](void** object, std::int64_t delta) -> std::int64_t {
-        return static_cast<Kept*>(*object)->links += delta;
-    },
+    .native = localNativeOf<Kept>(),
     .methods = methods,
     .attributes = {},
 };
@@ -112,9 +108,7 @@ constexpr localClassTable documentTable = {
     .nameRus = u"ТАБЛИЧНЫЙДОКУМЕНТ",
     .description = u"класс модуля с начала",
     .nativeName = u"Kept",
-    .construct = keptTable.construct,
-    .destroy = keptTable.destroy,
-    .link = keptTable.link,
+    .native = keptTable.native,
     .methods = methods,
     .attributes = {},
 };

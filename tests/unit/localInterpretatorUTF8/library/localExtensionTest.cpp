@@ -23,9 +23,7 @@ protected:
             .nameRus = u"СПУТНИК",
             .description = u"",
             .nativeName = u"companion",
-            .construct = []() -> void* { return new countedObject; },
-            .destroy = [](void* object) { delete static_cast<countedObject*>(object); },
-            .link = countedTable.link,
+            .native = countedTable.native,
             .methods = rows,
             .attributes = {},
         };
