@@ -17,7 +17,7 @@ bool load(const std::u16string& fileName, std::u16string& text, const char* func
         return true;
     }
     writeLine(u"Error! ");
-    traceLine(statusMessage(status), function);
+    traceLine(localStatusWords(status), function);
     return false;
 }
 
@@ -38,7 +38,7 @@ int run(const std::u16string& fileName) {
     if (!textExec(status, text, &context)) {
         // A BREAK outside any loop, and a program that fails without a status, have no words.
         if (status != localErrorTypeBREAK && status != localErrorTypeOK) {
-            traceLine(statusMessage(status), "run");
+            traceLine(localStatusWords(status), "run");
         }
         return failed;
     }

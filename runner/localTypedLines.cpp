@@ -3,7 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
 #include <memory>
+#include <new>
 
 #if defined(_WIN32)
 #include <io.h>
@@ -16,7 +18,7 @@
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 namespace localTypedLines {
@@ -42,21 +44,12 @@ std::u16string trimmed(std::u16string line) {
 // The lines of one session.
 class Session {
 public:
+    // Acts on the line that `read` gives; one that the memory cannot hold fails like any other.
     // False when the line asked for the end.
-    bool act(const std::u16string& typed) {
-        const std::u16string line = trimmed(typed);
-        if (line.empty()) {
-            return true;
-        }
-        if (line.size() == 1) {
-            writeLine(u"Syntax ERROR: " + line);
-            anyFailed_ = true;
-            return true;
-        }
+    template <class Read>
+    bool act(Read read) {
         int status = localErrorTypeOK;
-        std::uint32_t pos = 0;
-        if (!localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line, pos, &context_,
-                                                                  false)) {
+        if (!localGuarded(status, "act", [&] { return done(status, trimmed(read())); })) {
             anyFailed_ = true;
         }
         return status != localErrorTypeQUIT;
@@ -64,6 +57,19 @@ public:
     bool anyFailed() const { return anyFailed_; }
 
 private:
+    bool done(int& status, const std::u16string& line) {
+        if (line.empty()) {
+            return true;
+        }
+        if (line.size() == 1) {
+            writeLine({u"Syntax ERROR: ", line});
+            return false;
+        }
+        std::uint32_t pos = 0;
+        return localInterpretatorUTF8::scanStringGetOperatorAndExec(status, line, pos, &context_,
+                                                                    false);
+    }
+
     localContextUTF8 context_;
     bool anyFailed_ = false;
 };
@@ -81,10 +87,27 @@ std::u16string decoded(std::string_view bytes) {
     return localPlatform::fileNameFromBytes(bytes);
 }
 
+// False at the end of the input. A line that the memory cannot hold is passed over, and throws.
+bool readLine(std::string& line) {
+    if (std::getline(std::cin, line)) {
+        return true;
+    }
+    if (!std::cin.bad()) {
+        return false;
+    }
+    // The stream tells of memory as of a fault in reading, but then it can read on.
+    std::cin.clear();
+    std::cin.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+    if (std::cin.bad()) {
+        return false;
+    }
+    throw std::bad_alloc();
+}
+
 #if defined(_WIN32)
 bool readTyped(std::string& line) {
     std::cout << prompt << std::flush;
-    return static_cast<bool>(std::getline(std::cin, line));
+    return readLine(line);
 }
 #else
 bool readTyped(std::string& line) {
@@ -100,6 +123,22 @@ bool readTyped(std::string& line) {
 }
 #endif
 
+// False when the lines ended before one asked for the end.
+bool actOnLines(Session& session, bool (*next)(std::string& line)) {
+    std::string line;
+    bool more = true;
+    const auto read = [&] {
+        more = next(line);
+        return more ? decoded(line) : std::u16string();
+    };
+    while (session.act(read)) {
+        if (!more) {
+            return false;
+        }
+    }
+    return true;
+}
+
 int converse() {
     writeLine(u"This is the high-level language Korvo interpreter.");
     writeLine(u"Интерпретатор языка Корво.");
@@ -108,14 +147,8 @@ int converse() {
     writeLine(u" Input QUIT command for exit.");
     writeLine();
     Session session;
-    std::string line;
-    while (readTyped(line)) {
-        if (!session.act(decoded(line))) {
-            writeLine(u"Good bye!");
-            return 0;
-        }
-    }
-    writeLine();
+    const bool ended = actOnLines(session, readTyped);
+    writeLine(ended ? u"Good bye!" : u"");
     return 0;
 }
 
@@ -124,7 +157,7 @@ int converse() {
 int actOn(const std::vector<std::u16string>& lines) {
     Session session;
     for (const std::u16string& line : lines) {
-        if (!session.act(line)) {
+        if (!session.act([&line] { return line; })) {
             break;
         }
     }
@@ -136,12 +169,7 @@ int actOnStandardInput() {
         return converse();
     }
     Session session;
-    std::string line;
-    while (std::getline(std::cin, line)) {
-        if (!session.act(decoded(line))) {
-            break;
-        }
-    }
+    actOnLines(session, readLine);
     return session.anyFailed() ? 1 : 0;
 }
 

@@ -4,6 +4,7 @@
 
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localRunnerModules.h"
 #include "localRunnerOptions.h"
@@ -40,11 +41,7 @@ int act(const localRunnerOptions& options) {
     return 0;
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
-    std::ios::sync_with_stdio(false);
-    std::setlocale(LC_CTYPE, "");
+int start(int argc, char* argv[]) {
     localStd::argv0Set(localPlatform::programPath(argv[0]));
     localStd::startDirectory();
     for (const localExtension* const extension : madeOf) {
@@ -59,4 +56,18 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     return act(options);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    std::ios::sync_with_stdio(false);
+    std::setlocale(LC_CTYPE, "");
+    int status = localErrorTypeOK;
+    int exitCode = 1;
+    localGuarded(status, "main", [&] {
+        exitCode = start(argc, argv);
+        return true;
+    });
+    return exitCode;
 }

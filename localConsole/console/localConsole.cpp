@@ -13,7 +13,7 @@
 #include "localConsole/debug/MyThread.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
@@ -154,13 +154,12 @@ localConsole::~localConsole() {
 }
 
 void localConsole::cmdExec(const QString& command) {
-    const std::u16string text = command.toStdU16String();
     putPrompt(PromptPlace::newBlock);
-    if (text.empty()) {
+    if (command.isEmpty()) {
         putOutputLine({});
         return;
     }
-    if (text.size() == 1) {
+    if (command.size() == 1) {
         putOutputLine("Syntax ERROR: " + command);
         return;
     }
@@ -199,17 +198,17 @@ void localConsole::underTurn(const std::function<void()>& work) {
 }
 
 int localConsole::act(const QString& command) {
-    if (command.startsWith("# ")) {
-        inlineCalculation(
-            command);  // and on with the same command, in which the language sees nothing
-    }
-    const std::u16string text = command.toStdU16String();
     int status = localErrorTypeOK;
-    std::uint32_t pos = 0;
-    if (!ownCommand(text)) {
-        localInterpretatorUTF8::scanStringGetOperatorAndExec(status, text, pos, context_.get(),
-                                                             false);
-    }
+    localGuarded(status, "act", [&] {
+        if (command.startsWith("# ")) {
+            // And on with the same command, in which the language sees nothing.
+            inlineCalculation(command);
+        }
+        const std::u16string text = command.toStdU16String();
+        std::uint32_t pos = 0;
+        return ownCommand(text) || localInterpretatorUTF8::scanStringGetOperatorAndExec(
+                                       status, text, pos, context_.get(), false);
+    });
     return status;
 }
 

@@ -6,7 +6,7 @@
 #include "debug/localDebugCompile.h"
 #include "debug/localDebugVariable.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
@@ -45,7 +45,7 @@ void MyThread::run() {
     int status = localErrorTypeOK;
     if (!isInterruptionRequested()) {
         const localTurn::Hold turn;
-        call(status, text_, context_);
+        localGuarded(status, "run", [&] { return call(status, text_, context_); });
     }
     const QMutexLocker lock(&limitMutex_);
     limit_ = nullptr;
@@ -54,13 +54,13 @@ void MyThread::run() {
 
 bool MyThread::call(int& status, const std::u16string& text, localContextUTF8* context) {
     if (!localDebugCompile(status, text, root_)) {
-        traceLine(statusMessage(status), "call");
+        traceLine(localStatusWords(status), "call");
         return false;
     }
     localDebugVariablePut(*context, u"thisProcess", this);
     localSlot result;
     if (!root_.executeFunction(status, context, root_, localArguments(), result.asResult())) {
-        traceLine(statusMessage(status), "call");
+        traceLine(localStatusWords(status), "call");
         return false;
     }
     return true;

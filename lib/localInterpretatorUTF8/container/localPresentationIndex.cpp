@@ -23,14 +23,17 @@ localPresentationIndex::Entry* localPresentationIndex::find(std::u16string_view 
     return entry.count == 0 ? nullptr : &entry;
 }
 
+void localPresentationIndex::makeRoom() {
+    if ((used_ + 1) * 2 > cells_.size()) {
+        rebuild();
+    }
+}
+
 void localPresentationIndex::add(const localText& text, std::size_t position) {
+    makeRoom();
     const std::uint32_t hash = nameHash(text);
     Entry* entry = &cells_[place(text, hash)];
     if (!entry->used) {
-        if ((used_ + 1) * 2 > cells_.size()) {
-            rebuild();
-            entry = &cells_[place(text, hash)];
-        }
         entry->text = text;
         entry->hash = hash;
         entry->used = true;

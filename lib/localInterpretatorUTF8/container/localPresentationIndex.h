@@ -26,6 +26,8 @@ public:
 
     // The entry of a text that items have, null when none has it.
     Entry* find(std::u16string_view text);
+    // Asks for the memory that the next add() needs.
+    void makeRoom();
     // One more item has this text.
     void add(const localText& text, std::size_t position);
     // One item fewer has this text; there must be one.
@@ -34,7 +36,7 @@ public:
 private:
     // The cell of the text, or where it would go.
     std::size_t place(std::u16string_view text, std::uint32_t hash) const;
-    // Makes room, leaving out what no item has.
+    // A wider table, leaving out what no item has.
     void rebuild();
 
     std::vector<Entry> cells_;

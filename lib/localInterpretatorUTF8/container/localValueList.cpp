@@ -31,6 +31,9 @@ localValueList* localValueList::of(const localValueDescription& value) {
 }
 
 localValueDescription& localValueList::itemAppend(localText presentation) {
+    if (index_ != nullptr) {
+        index_->makeRoom();
+    }
     localValueListItem& item = items_.emplace_back();
     item.presentation = std::move(presentation);
     if (index_ != nullptr) {
@@ -53,7 +56,9 @@ void localValueList::valueAppend(double number, localText presentation) {
 }
 
 void localValueList::valueAppend(localValueList* list, localText presentation) {
-    itemAppend(std::move(presentation)).objectBind(list, classDeclaration());
+    localValueDescription value;
+    value.objectBind(list, classDeclaration());
+    itemAppend(std::move(presentation)).take(value);
 }
 
 std::size_t localValueList::valueSetByPresentation(const localValueDescription& value,
@@ -74,9 +79,9 @@ void localValueList::valueInsert(std::size_t position, const localValueDescripti
         valueAppend(value, std::move(presentation));
         return;
     }
-    index_.reset();
     localValueDescription copy(value);
     items_.emplace_back();
+    index_.reset();
     const std::size_t first = position == 0 ? 0 : position - 1;
     for (std::size_t i = items_.size() - 1; i > first; --i) {
         items_[i].presentation.swap(items_[i - 1].presentation);
@@ -117,11 +122,12 @@ std::size_t localValueList::positionOf(std::u16string_view presentation) const {
     std::size_t from = 0;
     localPresentationIndex::Entry* entry = nullptr;
     if (index_ == nullptr && size() > searchedInOrder && compared_ / searchesWorthTable >= size()) {
-        compared_ = 0;
-        index_ = std::make_unique<localPresentationIndex>(size());
+        auto index = std::make_unique<localPresentationIndex>(size());
         for (std::size_t i = 0; i < size(); ++i) {
-            index_->add(items_[i].presentation, i);
+            index->add(items_[i].presentation, i);
         }
+        index_ = std::move(index);
+        compared_ = 0;
     }
     if (index_ != nullptr) {
         entry = index_->find(presentation);

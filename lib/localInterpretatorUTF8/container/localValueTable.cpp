@@ -80,11 +80,27 @@ localValueTable* localValueTable::of(const localValueDescription& value) {
 
 std::size_t localValueTable::columnAdd(std::u16string_view name) {
     const localUpperName upper(name);
+    // Room first: a row shorter than the columns would be read beside its end.
+    for (Row& row : rows_) {
+        if (row.size() == row.capacity()) {
+            row.reserve(std::max<std::size_t>(row.size() * 2, 1));
+        }
+    }
     columns_.add({localText(upper.view()), upper.hash()});
     for (Row& row : rows_) {
         row.emplace_back();
     }
     return columnsCount();
+}
+
+void localValueTable::cut(std::size_t rows, std::size_t columns) {
+    rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(rows), rows_.end());
+    while (columnsCount() > columns) {
+        columns_.removeLast();
+        for (Row& row : rows_) {
+            row.pop_back();
+        }
+    }
 }
 
 std::size_t localValueTable::columnNumber(std::u16string_view name) const {
@@ -100,8 +116,9 @@ localText localValueTable::columnName(std::size_t number) const {
 
 std::size_t localValueTable::rowAdd(std::size_t position) {
     const bool appends = position == 0 || position >= rows_.size();
-    rows_.emplace(appends ? rows_.end() : rows_.begin() + static_cast<std::ptrdiff_t>(position) - 1,
-                  columnsCount());
+    Row row(columnsCount());
+    rows_.insert(appends ? rows_.end() : rows_.begin() + static_cast<std::ptrdiff_t>(position) - 1,
+                 std::move(row));
     return rows_.size();
 }
 

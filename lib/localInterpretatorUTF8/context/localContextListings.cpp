@@ -1,7 +1,7 @@
 // What a person sees of a context: its variables, functions and classes.
 #include <algorithm>
-#include <iostream>
-#include <sstream>
+#include <ostream>
+#include <string>
 
 #include "context/localStartClasses.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -33,10 +33,6 @@ std::u16string contextHead(const localContextUTF8& context) {
     return head;
 }
 
-void put(std::ostream& stream, std::u16string_view line) {
-    stream << localString::toUtf8(line) << std::endl;
-}
-
 // The names of entries that match a pattern, sorted by code units.
 template <class Entry>
 std::vector<std::u16string> matchingNames(const std::vector<Entry>& entries,
@@ -54,6 +50,48 @@ std::vector<std::u16string> matchingNames(const std::vector<Entry>& entries,
 // The next context of a chain from the inside out, ending also at one that is its own parent.
 localContextUTF8* outer(localContextUTF8* context) {
     return context->parent() == context ? nullptr : context->parent();
+}
+
+// The listings, which give their lines one by one.
+
+template <class PutLine>
+void listVariables(localContextUTF8* from, std::u16string_view pattern, PutLine put) {
+    put(std::u16string_view());
+    put(u"СПИСОК ПЕРЕМЕННЫХ *************** " + withPattern(pattern));
+    for (localContextUTF8* context = from; context != nullptr; context = outer(context)) {
+        std::u16string head = u"в том числе список переменных ";
+        if (!pattern.empty()) {
+            head += withPattern(pattern) + u" ";
+        }
+        put(head + contextHead(*context));
+        int number = 0;
+        for (const std::u16string& name :
+             matchingNames(context->variables(), pattern, context->caseSensitive)) {
+            put(numberToString(number++) + u" " + context->varDisplay(name));
+        }
+    }
+    put(u"Accessible RAM:" +
+        numberFormat(static_cast<double>(localPlatform::accessibleMemory()), u"Ч25.0.,") +
+        localString::fromUtf8(traceTail("dispMemo")));
+}
+
+template <class PutLine>
+void listFunctions(localContextUTF8* from, std::u16string_view pattern, PutLine put) {
+    put(std::u16string_view());
+    put(u"СПИСОК ФУНКЦИЙ " + withPattern(pattern));
+    for (localContextUTF8* context = from; context != nullptr; context = outer(context)) {
+        put(contextHead(*context));
+        int number = 0;
+        for (const std::u16string& name :
+             matchingNames(context->functions(), pattern, context->caseSensitive)) {
+            put(numberToString(number++) + u" " + name + u"() ");
+        }
+    }
+}
+
+auto lineTo(std::ostream& stream) {
+    return
+        [&stream](std::u16string_view line) { stream << localString::toUtf8(line) << std::endl; };
 }
 
 }  // namespace
@@ -79,51 +117,27 @@ bool namePatternMatches(std::u16string_view pattern, std::u16string_view name, b
 }
 
 void localContextUTF8::dispMemo(std::u16string_view pattern, std::ostream& stream) {
-    stream << std::endl;
-    put(stream, u"СПИСОК ПЕРЕМЕННЫХ *************** " + withPattern(pattern));
-    for (localContextUTF8* context = this; context != nullptr; context = outer(context)) {
-        std::u16string head = u"в том числе список переменных ";
-        if (!pattern.empty()) {
-            head += withPattern(pattern) + u" ";
-        }
-        put(stream, head + contextHead(*context));
-        int number = 0;
-        for (const std::u16string& name :
-             matchingNames(context->variables(), pattern, context->caseSensitive)) {
-            put(stream, numberToString(number++) + u" " + context->varDisplay(name));
-        }
-    }
-    stream << localString::toUtf8(
-                  u"Accessible RAM:" +
-                  numberFormat(static_cast<double>(localPlatform::accessibleMemory()), u"Ч25.0.,"))
-           << traceTail("dispMemo") << std::endl;
+    listVariables(this, pattern, lineTo(stream));
 }
 
 void localContextUTF8::dispMemo(std::u16string_view pattern) {
-    dispMemo(pattern, std::cout);
+    listVariables(this, pattern, [](std::u16string_view line) { writeLine(line); });
 }
 
 void localContextUTF8::dispMemoToLog(std::u16string_view pattern) {
-    std::ostringstream listing;
-    dispMemo(pattern, listing);
-    appendToLog(logFileName(), listing.str(), "dispMemoToLog");
+    std::string listing;
+    listVariables(this, pattern, [&listing](std::u16string_view line) {
+        listing += localString::toUtf8(line) + '\n';
+    });
+    appendToLog(logFileName(), listing, "dispMemoToLog");
 }
 
 void localContextUTF8::dispFunc(std::u16string_view pattern, std::ostream& stream) {
-    stream << std::endl;
-    put(stream, u"СПИСОК ФУНКЦИЙ " + withPattern(pattern));
-    for (localContextUTF8* context = this; context != nullptr; context = outer(context)) {
-        put(stream, contextHead(*context));
-        int number = 0;
-        for (const std::u16string& name :
-             matchingNames(context->functions(), pattern, context->caseSensitive)) {
-            put(stream, numberToString(number++) + u" " + name + u"() ");
-        }
-    }
+    listFunctions(this, pattern, lineTo(stream));
 }
 
 void localContextUTF8::dispFunc(std::u16string_view pattern) {
-    dispFunc(pattern, std::cout);
+    listFunctions(this, pattern, [](std::u16string_view line) { writeLine(line); });
 }
 
 void localContextUTF8::dispClasses(std::u16string_view pattern) {

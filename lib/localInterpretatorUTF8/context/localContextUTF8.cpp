@@ -6,6 +6,7 @@
 
 #include "context/localStartClasses.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localRandom.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
@@ -15,23 +16,25 @@
 std::int64_t localContextUTF8::counterStaticTotal = 0;
 localContextUTF8* localContextUTF8::globalContext = nullptr;
 
-localContextUTF8::localContextUTF8() {
-    enter(globalContext);
+// The others begin here: what fails in them finds a whole context, which its destructor takes down.
+localContextUTF8::localContextUTF8(Entered) {
+    assert(localTurn::isHeld());
+    ++counterStaticTotal;
 }
 
-localContextUTF8::localContextUTF8(localContextUTF8* parentContext) {
+localContextUTF8::localContextUTF8() : localContextUTF8(Entered()) {
+    parent_ = globalContext;
+    int status = localErrorTypeOK;
+    init(status);
+}
+
+localContextUTF8::localContextUTF8(localContextUTF8* parentContext) : localContextUTF8(Entered()) {
     if (globalContext == nullptr) {
         static_cast<void>(new localContextUTF8);  // lives to the end of the process
         traceLine(u"глобальным назначен контекст [" + addressText(globalContext) + u"]",
                   "localContextUTF8");
     }
-    enter(parentContext == nullptr ? globalContext : parentContext);
-}
-
-void localContextUTF8::enter(localContextUTF8* parentContext) {
-    assert(localTurn::isHeld());
-    ++counterStaticTotal;
-    parent_ = parentContext;
+    parent_ = parentContext == nullptr ? globalContext : parentContext;
     int status = localErrorTypeOK;
     init(status);
 }
@@ -129,20 +132,26 @@ const localFunctionEntry* localContextUTF8::funcFind(std::u16string_view name, i
     return nullptr;
 }
 
-void localContextUTF8::funcAdd(std::u16string_view name,
+void localContextUTF8::funcAdd(const localText& upper, std::uint32_t hash,
                                std::shared_ptr<const localOperatorCompiled> compiled) {
-    const localUpperName upper(name);
-    if (localFunctionEntry* entry = functions_.find(upper, upper.hash())) {
+    if (localFunctionEntry* entry = functions_.find(upper, hash)) {
         entry->nativeFunction = nullptr;
         entry->compiled = std::move(compiled);
         return;
     }
-    functions_.add({upper.view(), upper.hash(), nullptr, std::move(compiled)});
+    functions_.add({upper, hash, nullptr, std::move(compiled)});
+}
+
+void localContextUTF8::funcAdd(std::u16string_view name,
+                               std::shared_ptr<const localOperatorCompiled> compiled) {
+    const localText upper = toUpper(name);
+    funcAdd(upper, nameHash(upper), std::move(compiled));
 }
 
 void localContextUTF8::moduleImport(const localOperatorCompiled& module) {
+    functions_.makeRoom(module.functions.size());
     for (const auto& [name, body] : module.functions) {
-        funcAdd(name, body);
+        funcAdd(name, nameHash(name), body);
     }
 }
 
@@ -170,6 +179,11 @@ bool localContextUTF8::funcExec(int& status, std::u16string_view name, const loc
     if (result != nullptr) {
         exit_FAILURE(u"localContextUTF8::funcExec() result must be NULL!");
     }
+    return localGuarded(status, name, [&] { return funcRun(status, name, args, result); });
+}
+
+bool localContextUTF8::funcRun(int& status, std::u16string_view name, const localArguments& args,
+                               localValueDescription*& result) {
     int steps = 0;
     localContextUTF8* holder = nullptr;
     const localFunctionEntry* entry = funcFind(localUpperName(name), steps, &holder);
@@ -276,10 +290,11 @@ bool localContextUTF8::init(int& status) {
 }
 
 void localContextUTF8::nativeFunctionsAdd() {
-    functions_.clear();
+    localScopeTable<localFunctionEntry> functions;
     for (const auto& member : classDeclaration()->members()) {
         if (member->methodFunction != nullptr) {
-            functions_.add({member->name, nameHash(member->name), member->methodFunction, nullptr});
+            functions.add({member->name, nameHash(member->name), member->methodFunction, nullptr});
         }
     }
+    functions_ = std::move(functions);
 }

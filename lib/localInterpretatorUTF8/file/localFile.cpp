@@ -1,6 +1,5 @@
 #include "localInterpretatorUTF8/file/localFile.h"
 
-#include <exception>
 #include <memory>
 
 #include "localInterpretatorUTF8/file/localStd.h"
@@ -22,7 +21,7 @@ FileHandle opened(std::u16string_view name, const char* mode) {
 // end.
 constexpr std::size_t longestFile = localText::maxLength * 2;
 
-// False also for a file that no text or the memory can hold.
+// False also for a file that no text can hold.
 bool readBytes(std::u16string_view fileName, const char* mode, std::string& bytes) {
     const FileHandle file = opened(fileName, mode);
     if (file == nullptr) {
@@ -30,15 +29,11 @@ bool readBytes(std::u16string_view fileName, const char* mode, std::string& byte
     }
     char block[65536];
     std::size_t count = 0;
-    try {
-        while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
-            if (bytes.size() + count > longestFile) {
-                return false;
-            }
-            bytes.append(block, count);
+    while ((count = std::fread(block, 1, sizeof block, file.get())) != 0) {
+        if (bytes.size() + count > longestFile) {
+            return false;
         }
-    } catch (const std::exception&) {
-        return false;
+        bytes.append(block, count);
     }
     return std::ferror(file.get()) == 0;
 }
@@ -119,12 +114,11 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::
         written = std::fclose(file.release()) == 0 && written;
     }
     if (!written) {
+        const std::u16string words = u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
+                                     localString::fromUtf8(traceTail("fileWrite"));
         localHost& host = localHost::current();
         host.setCursor(localHost::Cursor::arrow);
-        host.report({.kind = localReport::Kind::critical,
-                     .title = u"save",
-                     .text = u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
-                             localString::fromUtf8(traceTail("fileWrite"))});
+        host.report({.kind = localReport::Kind::critical, .title = u"save", .text = words});
         host.setCursor(localHost::Cursor::restored);
     }
     return written;
@@ -137,7 +131,7 @@ std::u16string logFileName() {
 void appendToLog(std::u16string_view fileName, std::string_view bytes, std::string_view function) {
     const FileHandle file = opened(fileName, "ab");
     if (file == nullptr) {
-        traceLine(u"Logfile [" + std::u16string(fileName) + u"] open ERROR!", function);
+        traceLine({u"Logfile [", fileName, u"] open ERROR!"}, function);
         return;
     }
     std::fwrite(bytes.data(), 1, bytes.size(), file.get());

@@ -2,13 +2,12 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 
 void exit_FAILURE(std::u16string_view message) {
-    traceLine(u"Error!!!  " + std::u16string(message), "exit_FAILURE");
+    traceLine({u"Error!!!  ", message}, "exit_FAILURE");
     localHost& host = localHost::current();
     host.setCursor(localHost::Cursor::arrow);
     host.haltBox(u"Halt!!! Runtime error.", message);

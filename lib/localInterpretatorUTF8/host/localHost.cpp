@@ -25,7 +25,7 @@ bool localHost::hasScreen() const {
 void localHost::setCursor(Cursor) {}
 
 localReport::Button localHost::report(const localReport& report) {
-    writeLine(report.title + u": " + report.plainText());
+    writeLine({report.title, u": ", report.plainText()});
     return report.defaultButton;
 }
 
@@ -60,7 +60,7 @@ bool localHost::showList(std::u16string_view, const std::vector<std::u16string>&
 
 void localHost::showDirectory() {
     for (const localPlatform::DirectoryEntry& entry : localPlatform::directoryEntries(u".")) {
-        writeLine(entry.isDirectory ? entry.name + u"/" : entry.name);
+        writeLine({entry.name, entry.isDirectory ? u"/" : u""});
     }
 }
 

@@ -14,6 +14,27 @@ namespace {
 
 constexpr std::string_view functionName = "scanStringGetValueTableFromJson";
 
+// Takes off again what was added to a table, unless it may stay.
+class Addition {
+public:
+    explicit Addition(localValueTable& table)
+        : table_(table), rows_(table.rowsCount()), columns_(table.columnsCount()) {}
+    Addition(const Addition&) = delete;
+    Addition& operator=(const Addition&) = delete;
+    ~Addition() {
+        if (!stays) {
+            table_.cut(rows_, columns_);
+        }
+    }
+
+    bool stays = false;
+
+private:
+    localValueTable& table_;
+    std::size_t rows_;
+    std::size_t columns_;
+};
+
 class TableReader {
 public:
     TableReader(int& status, const std::u16string& text, localPosition pos)
@@ -162,7 +183,9 @@ bool scanStringGetValueTableFromJson(int& status, const std::u16string& text, lo
         return false;
     }
     TableReader reader(status, text, pos);
+    Addition addition(*outermost);
     const bool done = reader.read(*outermost);
+    addition.stays = true;
     pos = reader.cursor.position();
     return done;
 }

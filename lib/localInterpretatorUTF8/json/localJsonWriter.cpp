@@ -150,7 +150,9 @@ private:
             int status = localErrorTypeOK;
             const localArguments none;
             localSlot result;
-            if (value.valueMethodExec(status, nullptr, u"TOJSON", &none, result.asResult())) {
+            void* object = value.pointer;
+            if (value.objClass->methodRun(status, nullptr, object, u"TOJSON", &none,
+                                          result.asResult())) {
                 text = result->wStr;
             }
         }

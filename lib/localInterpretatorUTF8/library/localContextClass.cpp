@@ -1,6 +1,6 @@
 // The class CONTEXT: its methods are the global functions, its attributes the boolean words and the
 // variables.
-#include <array>
+#include <memory>
 
 #include "localInterpretatorUTF8/classes/localClassForTest.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
@@ -77,7 +77,7 @@ bool method(int& status, localContextUTF8* context, void*& object, std::u16strin
 
 localClassDeclaration* localContextUTF8::classDeclaration() {
     static localClassDeclaration* const declaration = [] {
-        auto* made = new localClassDeclaration;
+        auto made = std::make_unique<localClassDeclaration>();
         made->nameEng = u"CONTEXT";
         made->nameRus = u"КОНТЕКСТ";
         made->description = u"это контекст";
@@ -93,7 +93,7 @@ localClassDeclaration* localContextUTF8::classDeclaration() {
         for (const char16_t* name : {u"FALSE", u"ЛОЖЬ", u"TRUE", u"ИСТИНА"}) {
             made->memberAdd({name, nullptr, nullptr, attributeGet});
         }
-        return made;
+        return made.release();
     }();
     return declaration;
 }

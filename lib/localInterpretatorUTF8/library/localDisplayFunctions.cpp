@@ -23,6 +23,17 @@ Target targetOf(const localCall& call, std::size_t argument) {
     return {mode != 1, mode == 1 || mode == 2};
 }
 
+// The slot of a result is free while this object lives, so that the listing does not count it.
+// Reserving gives the same slot back: it was the lowest free one when the call began, and the
+// listing leaves the others as they are.
+class SlotFree {
+public:
+    explicit SlotFree(localValueDescription& slot) { localValueDescription::release(&slot); }
+    ~SlotFree() { localMemoryManager::manager->reserveSlot(); }
+    SlotFree(const SlotFree&) = delete;
+    SlotFree& operator=(const SlotFree&) = delete;
+};
+
 std::u16string_view patternOf(const localCall& call) {
     return call.args.empty() ? std::u16string_view() : call.text(0);
 }
@@ -54,19 +65,17 @@ bool memoryDisplay(localCall& call) {
     return call.done();
 }
 
-// The slot of the result is free while the listing runs, so that it does not count itself.
-// Reserving gives the same slot back: it was the lowest free one when the call began, and the
-// listing leaves the others as they are.
 bool memoryDisplayData(localCall& call) {
     const Target target = targetOf(call, 0);
-    localValueDescription::release(&call.result);
-    if (target.output) {
-        localMemoryManager::memoryDisplayData();
+    {
+        const SlotFree free(call.result);
+        if (target.output) {
+            localMemoryManager::memoryDisplayData();
+        }
+        if (target.log) {
+            localMemoryManager::dispToLog(logFileName());
+        }
     }
-    if (target.log) {
-        localMemoryManager::dispToLog(logFileName());
-    }
-    localMemoryManager::manager->reserveSlot();
     return call.done();
 }
 

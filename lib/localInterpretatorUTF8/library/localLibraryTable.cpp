@@ -1,12 +1,9 @@
 #include <array>
-#include <new>
-#include <stdexcept>
 
 #include "library/localFillable.h"
 #include "library/localHandlers.h"
 #include "localInterpretatorUTF8/library/localLibrary.h"
-#include "localInterpretatorUTF8/text/localString.h"
-#include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace localLibrary {
@@ -108,13 +105,6 @@ constexpr std::array table = std::to_array<localMethodRow>({
 
 constexpr std::size_t rowsWithoutMember = 2;
 
-// A text or list that the memory cannot hold ends the call, not the process.
-bool outOfMemory(int& status, std::u16string_view function) {
-    traceLine(u"Недостаточно памяти!", localString::toUtf8(function));
-    status = localErrorTypeCODE;
-    return false;
-}
-
 }  // namespace
 
 std::span<const localMethodRow> rows() {
@@ -128,24 +118,20 @@ localMethodRows& functionRows() {
 
 bool call(int& status, localContextUTF8* context, std::u16string_view name,
           const localArguments* args, localValueDescription*& result) {
-    result = localMemoryManager::manager->reserveSlot();
-    if (args == nullptr) {
-        status = localErrorTypeCODE;
-        return false;
-    }
-    const localMethodRows::Entry* entry = functionRows().find(name);
-    if (entry == nullptr) {
-        status = localErrorTypeMETHODUNKNOWN;
-        return false;
-    }
-    localCall callFacts{status, context, context, name, *args, *result};
-    try {
+    return localGuarded(status, name, [&] {
+        result = localMemoryManager::manager->reserveSlot();
+        if (args == nullptr) {
+            status = localErrorTypeCODE;
+            return false;
+        }
+        const localMethodRows::Entry* entry = functionRows().find(name);
+        if (entry == nullptr) {
+            status = localErrorTypeMETHODUNKNOWN;
+            return false;
+        }
+        localCall callFacts{status, context, context, name, *args, *result};
         return localHandlerRun(callFacts, entry->row->arguments, entry->handler);
-    } catch (const std::bad_alloc&) {
-        return outOfMemory(status, entry->row->english);
-    } catch (const std::length_error&) {
-        return outOfMemory(status, entry->row->english);
-    }
+    });
 }
 
 }  // namespace localLibrary

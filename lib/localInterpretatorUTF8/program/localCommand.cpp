@@ -10,7 +10,7 @@
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localStackGuard.h"
 #include "program/localManualBrief.h"
@@ -73,7 +73,7 @@ private:
         localSlot value;
         if (!scanStringGetExpressionAndEvaluete(status_, text_, pos_, value.asResult(), context_,
                                                 false)) {
-            traceLine(u"ERROR!!! " + statusMessage(status_), functionName);
+            traceLine({u"ERROR!!! ", localStatusWords(status_)}, functionName);
             return false;
         }
         writeLine(value->toString());
@@ -139,7 +139,7 @@ private:
         std::u16string program;
         if (!loadFileToText(status_, fileName, program, u"Utf8")) {
             writeLine(u"Error! ");
-            traceLine(statusMessage(status_), functionName);
+            traceLine(localStatusWords(status_), functionName);
             return false;
         }
         if (onlyCheck_) {
@@ -148,7 +148,7 @@ private:
         int programStatus = localErrorTypeOK;
         if (!localStackGuard::enter(programStatus, functionName) ||
             !textExec(programStatus, program, context_)) {
-            traceLine(statusMessage(programStatus), functionName);
+            traceLine(localStatusWords(programStatus), functionName);
             // A QUIT in a program's text spoils its compile under the status that would close the
             // console; for who runs the program it is a fault like another.
             return fail(programStatus == localErrorTypeQUIT ? localErrorTypeSYNTAX : programStatus);
@@ -287,7 +287,7 @@ private:
         if (onlyCheck_) {
             return true;
         }
-        writeLine(u"Пытаемся загрузить класс [" + name + u"] ");
+        writeLine({u"Пытаемся загрузить класс [", name, u"] "});
         localSlot nameValue = localSlot::reserve();
         nameValue->setVal(name);
         localValueDescription* const values[] = {nameValue.get()};
@@ -298,7 +298,7 @@ private:
                 status_, context_, object, u"CLASSLOAD", &args, loaded.asResult())) {
             return false;
         }
-        writeLine(u"Класс [" + name + u"] загружен!");
+        writeLine({u"Класс [", name, u"] загружен!"});
         context_->dispClasses({});
         return true;
     }
@@ -337,7 +337,8 @@ bool scanStringGetOperatorAndExec(int& status, const std::u16string& text, std::
             u"localInterpretatorUTF8::scanStringGetOperatorAndExec() context may be NULL only in "
             u"onlyCheck!");
     }
-    return Command(status, text, pos, context, onlyCheck).run();
+    return localGuarded(status, functionName,
+                        [&] { return Command(status, text, pos, context, onlyCheck).run(); });
 }
 
 }  // namespace localInterpretatorUTF8

@@ -4,7 +4,7 @@
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localStackGuard.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
@@ -46,8 +46,8 @@ struct Run {
 // The lines of a failed assignment or condition.
 void evaluationFailed(int status, const localText& name, std::u16string_view expression) {
     writeLine();
-    traceLine(u">> " + name.string() + u"=" + std::u16string(expression) + u"; ", "execute");
-    traceLine(u"ERROR!!! " + statusMessage(status), "execute");
+    traceLine({u">> ", name, u"=", expression, u"; "}, "execute");
+    traceLine({u"ERROR!!! ", localStatusWords(status)}, "execute");
 }
 
 // Children in order. A BREAK or RETURN on its way up stops the block; a continue does not. Meant.
@@ -92,9 +92,8 @@ bool command(const Run& run) {
     if (scanStringGetOperatorAndExec(run.status, run.node.statement, pos, run.context, false)) {
         return true;
     }
-    traceLine(run.node.name.string() + u"=" + std::u16string(run.node.expression()) + u"; ",
-              "execute");
-    writeLine(statusMessage(run.status));
+    traceLine({run.node.name, u"=", run.node.expression(), u"; "}, "execute");
+    writeLine(localStatusWords(run.status));
     traceLine(u"ERROR!!!", "execute");
     return false;
 }
@@ -140,10 +139,10 @@ bool ifBranches(const Run& run) {
 
 bool print(const Run& run) {
     if (!run.evaluate(run.node.statement)) {
-        const std::u16string text(run.node.expression());
+        const std::u16string_view text = run.node.expression();
         traceLine(text, "execute");
-        traceLine(u"ERROR!!! " + statusMessage(run.status) + u" in  expression.", "execute");
-        traceLine(u"Expression below: " + text + u" in  expression", "execute");
+        traceLine({u"ERROR!!! ", localStatusWords(run.status), u" in  expression."}, "execute");
+        traceLine({u"Expression below: ", text, u" in  expression"}, "execute");
         return false;
     }
     writeLine(run.result->toString());
@@ -152,8 +151,8 @@ bool print(const Run& run) {
 
 bool returnValue(const Run& run) {
     if (!run.evaluate(run.node.statement)) {
-        placeLine(u"localCompiledOperatorTypeRENURN with expression [" +
-                  std::u16string(run.node.expression()) + u"]");
+        placeLine(
+            {u"localCompiledOperatorTypeRENURN with expression [", run.node.expression(), u"]"});
         traceLine(u"ERROR!!!", "execute");
         return false;
     }
@@ -185,28 +184,18 @@ bool whileLoop(const Run& run) {
     }
 }
 
-}  // namespace
-
-bool localOperatorCompiled::execute(int& status, localContextUTF8* context,
-                                    const localOperatorCompiled& node, const localArguments& args,
-                                    localValueDescription*& result) {
-    assert(localTurn::isHeld());
-    if (result != nullptr) {
-        exit_FAILURE(u"localOperatorCompiled::execute() result must be NULL!");
-    }
-    status = localErrorTypeOK;
-    const Run run{status, context, node, args, result};
-    switch (node.type) {
+bool runNode(const Run& run) {
+    switch (run.node.type) {
         case localCompiledOperatorTypeBLOCK:
-            if (!localStackGuard::enter(status, "execute")) {
+            if (!localStackGuard::enter(run.status, "execute")) {
                 return false;
             }
-            return node.name.empty() ? block(run) : functionBody(run);
+            return run.node.name.empty() ? block(run) : functionBody(run);
         case localCompiledOperatorTypeBREAK:
-            status = localErrorTypeBREAK;
+            run.status = localErrorTypeBREAK;
             return true;
         case localCompiledOperatorTypeCONTINUE:
-            status = localErrorTypeCONTINUE;
+            run.status = localErrorTypeCONTINUE;
             return true;
         case localCompiledOperatorTypeCOMMAND:
             return command(run);
@@ -224,4 +213,18 @@ bool localOperatorCompiled::execute(int& status, localContextUTF8* context,
             traceLine(u"localCompiledOperatorTypeNONE ", "execute");
             return false;
     }
+}
+
+}  // namespace
+
+bool localOperatorCompiled::execute(int& status, localContextUTF8* context,
+                                    const localOperatorCompiled& node, const localArguments& args,
+                                    localValueDescription*& result) {
+    assert(localTurn::isHeld());
+    if (result != nullptr) {
+        exit_FAILURE(u"localOperatorCompiled::execute() result must be NULL!");
+    }
+    status = localErrorTypeOK;
+    const Run run{status, context, node, args, result};
+    return localGuarded(status, "execute", [&run] { return runNode(run); });
 }

@@ -1,10 +1,9 @@
 #include "localInterpretatorUTF8/program/localProgram.h"
 
 #include <algorithm>
-#include <new>
 
 #include "localInterpretatorUTF8/host/localHost.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
@@ -29,19 +28,17 @@ void writeFault(int status, const std::u16string& text, std::uint32_t pos, const
         1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), u'\n');
     const double unit = at < text.size() ? text[at] : 0;
     writeLine(std::u16string_view(text).substr(lineStart, lineEnd - lineStart));
-    writeLine(statusMessage(status));
-    traceLine(u"line: " + numberToString(static_cast<double>(line)) + u" pos: " +
-                  numberToString(static_cast<double>(at - lineStart)),
+    writeLine(localStatusWords(status));
+    traceLine({u"line: ", numberToString(static_cast<double>(line)), u" pos: ",
+               numberToString(static_cast<double>(at - lineStart))},
               function);
-    traceLine(u"char: " + numberToString(unit), function);
+    traceLine({u"char: ", numberToString(unit)}, function);
 }
 
 enum class ProgramValue { none, one, other };
 
-// Compiles and runs. False when either failed; `value` tells what the program gave.
-bool compileAndRun(int& status, const std::u16string& text, localContextUTF8* context,
-                   const char* function, ProgramValue& value) {
-    value = ProgramValue::none;
+bool runUnguarded(int& status, const std::u16string& text, localContextUTF8* context,
+                  const char* function, ProgramValue& value) {
     localOperatorCompiled root;
     {
         const WaitCursor cursor;
@@ -52,7 +49,7 @@ bool compileAndRun(int& status, const std::u16string& text, localContextUTF8* co
     const WaitCursor cursor;
     localSlot result;
     if (!root.executeFunction(status, context, root, localArguments(), result.asResult())) {
-        traceLine(statusMessage(status), function);
+        traceLine(localStatusWords(status), function);
         return false;
     }
     // A BREAK outside any loop ends the program without a value.
@@ -64,20 +61,23 @@ bool compileAndRun(int& status, const std::u16string& text, localContextUTF8* co
     return true;
 }
 
+// Compiles and runs. False when either failed; `value` tells what the program gave.
+bool compileAndRun(int& status, const std::u16string& text, localContextUTF8* context,
+                   const char* function, ProgramValue& value) {
+    value = ProgramValue::none;
+    return localGuarded(status, function,
+                        [&] { return runUnguarded(status, text, context, function, value); });
+}
+
 }  // namespace
 
 bool programCompile(int& status, const std::u16string& text, localOperatorCompiled& root,
                     const char* function) {
-    localMemoryManager::start();  // compiling needs values but no context
     std::uint32_t pos = 0;
-    bool compiled = false;
-    // A program that the memory cannot hold ends its compiling, not the process.
-    try {
-        compiled = textCompile(status, text, pos, &root);
-    } catch (const std::bad_alloc&) {
-        traceLine(u"Недостаточно памяти!", function);
-        status = localErrorTypeCODE;
-    }
+    const bool compiled = localGuarded(status, function, [&] {
+        localMemoryManager::start();  // compiling needs values but no context
+        return textCompile(status, text, pos, &root);
+    });
     if (status != localErrorTypeOK) {
         writeFault(status, text, pos, function);
         return false;

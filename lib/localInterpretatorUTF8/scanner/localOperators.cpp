@@ -16,7 +16,7 @@ bool fail(int& status, int code) {
 }
 
 bool cannotDo(int& status, int operation, std::string_view function) {
-    traceLine(u"Не могу выполниить операцию номер [" + numberToString(operation) + u"]", function);
+    traceLine({u"Не могу выполниить операцию номер [", numberToString(operation), u"]"}, function);
     return fail(status, localErrorTypeCODE);
 }
 

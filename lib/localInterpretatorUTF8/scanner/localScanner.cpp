@@ -2,12 +2,11 @@
 
 #include <array>
 #include <cassert>
-#include <new>
 #include <type_traits>
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
-#include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localStackGuard.h"
@@ -34,17 +33,17 @@ public:
         }
     }
     localValueDescription& add() {
-        localValueDescription* value = localMemoryManager::manager->reserveSlot();
+        localSlot value = localSlot::reserve();
         if (count_ < few_.size()) {
-            few_[count_] = value;
+            few_[count_] = value.get();
         } else {
             if (many_.empty()) {
                 many_.assign(few_.begin(), few_.end());
             }
-            many_.push_back(value);
+            many_.push_back(value.get());
         }
         ++count_;
-        return *value;
+        return *value.handOver();
     }
     localArguments values() const { return {many_.empty() ? few_.data() : many_.data(), count_}; }
 
@@ -146,8 +145,8 @@ public:
         const char16_t quote = *cursor.at;
         std::u16string_view content;
         if (!cursor.stringToken(content)) {
-            writeLine(std::u16string(u"ОШИБКА при сборке СТРОКОВОЙ костанты . Ожидается символ '") +
-                      quote + u"'");
+            writeLine({u"ОШИБКА при сборке СТРОКОВОЙ костанты . Ожидается символ '",
+                       std::u16string_view(&quote, 1), u"'"});
             return fail(localErrorTypeSYNTAX);
         }
         if constexpr (mode == Mode::evaluate) {
@@ -177,9 +176,9 @@ public:
             cursor.skipBlanks();
             if (!cursor.atEnd() && *cursor.at == u')') {
                 if (afterComma) {
-                    writeLine(u"Error scanStringGetNameTokenAndEvaluete() ожидается  параметр в "
-                              u"позиции " +
-                              numberToString(cursor.position()));
+                    writeLine({u"Error scanStringGetNameTokenAndEvaluete() ожидается  параметр в "
+                               u"позиции ",
+                               numberToString(cursor.position())});
                     return false;  // the status stays as it was. Meant.
                 }
                 return true;
@@ -366,7 +365,7 @@ private:
             return false;
         }
         if (cursor.atEnd() || *cursor.at != u')') {
-            traceLine(u"ожидается  ')' в позиции " + numberToString(cursor.position()),
+            traceLine({u"ожидается  ')' в позиции ", numberToString(cursor.position())},
                       "scanStringGetNameTokenAndEvaluete");
             return fail(localErrorTypeCLOSEPARENTHESISEXPECTED);
         }
@@ -405,15 +404,14 @@ private:
 
     void callFailed(std::u16string_view name) {
         writeLine();
-        traceLine(u">> " + std::u16string(name) + u"() in " + std::u16string(cursor.at, cursor.end),
+        traceLine({u">> ", name, u"() in ", {cursor.at, cursor.left()}},
                   "scanStringGetNameTokenAndEvaluete");
-        traceLine(u"ERROR!!! " + statusMessage(status_), "scanStringGetNameTokenAndEvaluete");
+        traceLine({u"ERROR!!! ", localStatusWords(status_)}, "scanStringGetNameTokenAndEvaluete");
     }
 
     bool notObject(std::u16string_view name) {
-        traceLine(u"ERROR в scanStringGetNameTokenAndEvaluete() (variable [" +
-                      std::u16string(name) + u"] is not OBJECT ) position: " +
-                      numberToString(cursor.position()),
+        traceLine({u"ERROR в scanStringGetNameTokenAndEvaluete() (variable [", name,
+                   u"] is not OBJECT ) position: ", numberToString(cursor.position())},
                   "scanStringGetNameTokenAndEvaluete");
         return fail(localErrorTypeNOTOBJECT);
     }
@@ -440,25 +438,21 @@ void requireContext(const localContextUTF8* context, bool onlyCheck, std::u16str
 template <class Check, class Evaluate>
 bool scanned(int& status, Scanner& scanner, localPosition& pos, localValueDescription*& result,
              bool onlyCheck, Check check, Evaluate evaluate) {
-    bool done = false;
-    localSlot slot = localSlot::reserve();
-    if (onlyCheck) {
-        Nothing nothing;
-        done = check(nothing);
-        slot->setVal(1.0);
-    } else {
-        // A value that the memory cannot hold ends the expression, not the process.
-        try {
-            done = evaluate(*slot);
-        } catch (const std::bad_alloc&) {
-            traceLine(u"Недостаточно памяти!", "scanStringGetExpressionAndEvaluete");
-            status = localErrorTypeCODE;
+    const bool done = localGuarded(status, "scanStringGetExpressionAndEvaluete", [&] {
+        localSlot slot = localSlot::reserve();
+        if (onlyCheck) {
+            Nothing nothing;
+            slot->setVal(1.0);
+            if (!check(nothing)) {
+                return false;
+            }
+        } else if (!evaluate(*slot)) {
+            return false;
         }
-    }
-    pos = scanner.cursor.position();
-    if (done) {
         result = slot.handOver();
-    }
+        return true;
+    });
+    pos = scanner.cursor.position();
     return done;
 }
 
@@ -548,6 +542,7 @@ bool scanStringGetArguments(int& status, const std::u16string& text, localPositi
     if (onlyCheck) {
         ArgumentCount checked;
         done = scanner.arguments<Mode::check>(checked);
+        args.reserve(checked.count());
         for (std::size_t i = 0; i < checked.count(); ++i) {
             args.push_back(localSlot::reserve());
             args.back()->setVal(1.0);
@@ -555,6 +550,7 @@ bool scanStringGetArguments(int& status, const std::u16string& text, localPositi
     } else {
         ArgumentList list;
         done = scanner.arguments<Mode::evaluate>(list);
+        args.reserve(list.values().size());
         for (localValueDescription* value : list.values()) {
             args.push_back(localSlot::share(*value));
         }

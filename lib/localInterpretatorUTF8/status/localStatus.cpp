@@ -1,6 +1,8 @@
 #include "localInterpretatorUTF8/status/localStatus.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 
 #include "localInterpretatorUTF8/text/localNumberText.h"
 
@@ -70,12 +72,22 @@ constexpr std::array<std::u16string_view, 55> messages = [] {
 
 }  // namespace
 
-std::u16string statusMessage(int status) {
-    if (status >= 0 && static_cast<std::size_t>(status) < messages.size() &&
-        !messages[static_cast<std::size_t>(status)].empty()) {
-        return std::u16string(messages[static_cast<std::size_t>(status)]);
+localStatusWords::localStatusWords(int status) {
+    if (status >= 0 && static_cast<std::size_t>(status) < messages.size()) {
+        words_ = messages[static_cast<std::size_t>(status)];
     }
-    return u"Неизвестный статус возврата ном: " + numberToString(status);
+    if (words_.empty()) {
+        constexpr std::u16string_view unknown = u"Неизвестный статус возврата ном: ";
+        char digits[16];
+        const char* const digitsEnd = std::to_chars(digits, digits + sizeof digits, status).ptr;
+        char16_t* const behindText = std::copy(unknown.begin(), unknown.end(), unknown_.data());
+        const char16_t* const end = std::copy<const char*>(digits, digitsEnd, behindText);
+        words_ = {unknown_.data(), static_cast<std::size_t>(end - unknown_.data())};
+    }
+}
+
+std::u16string statusMessage(int status) {
+    return std::u16string(localStatusWords(status));
 }
 
 bool statusAfterBody(int& status, int statusOfCaller) {

@@ -44,22 +44,8 @@ void appendCP866(std::string& bytes, char16_t unit) {
 }
 
 void appendUtf8(std::string& bytes, char16_t unit) {
-    if (unit < 256) {
-        // 128 to 255 go out as the single byte, which is no valid UTF-8. Meant.
-        bytes += static_cast<char>(unit);
-    } else if (unit == u'Ё') {
-        bytes += "\xD0\x81";
-    } else if (unit == u'ё') {
-        bytes += "\xD1\x91";
-    } else if (unit >= u'А' && unit <= u'п') {
-        bytes += '\xD0';
-        bytes += static_cast<char>((unit & 0xFF) - 128);
-    } else if (unit >= u'р' && unit <= u'я') {
-        bytes += '\xD1';
-        bytes += static_cast<char>((unit & 0xFF) + 64);
-    } else {
-        bytes += unknownByte;
-    }
+    char pair[2];
+    bytes.append(pair, toUtf8(unit, pair));
 }
 
 char16_t fromCP1251(unsigned char byte) {
@@ -121,6 +107,32 @@ constexpr std::array<signed char, 128> base64Values = [] {
 }();
 
 }  // namespace
+
+std::size_t toUtf8(char16_t unit, char (&bytes)[2]) {
+    const auto one = [&bytes](char byte) {
+        bytes[0] = byte;
+        return std::size_t{1};
+    };
+    const auto two = [&bytes](int first, int second) {
+        bytes[0] = static_cast<char>(first);
+        bytes[1] = static_cast<char>(second);
+        return std::size_t{2};
+    };
+    if (unit < 256) {
+        // 128 to 255 go out as the single byte, which is no valid UTF-8. Meant.
+        return one(static_cast<char>(unit));
+    }
+    if (unit == u'Ё') {
+        return two(0xD0, 0x81);
+    }
+    if (unit == u'ё') {
+        return two(0xD1, 0x91);
+    }
+    if (unit >= u'А' && unit <= u'п') {
+        return two(0xD0, (unit & 0xFF) + 128);
+    }
+    return unit >= u'р' && unit <= u'я' ? two(0xD1, (unit & 0xFF) + 64) : one(unknownByte);
+}
 
 possibleCodePage codePageFromName(std::u16string_view name) {
     const std::u16string upper = toUpper(trimBoth(name));

@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "localInterpretatorUTF8/host/localHalt.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
@@ -30,6 +31,7 @@ std::u16string memberLine(const localClassMember& member) {
 }  // namespace
 
 void localClassDeclaration::memberAdd(localClassMember member) {
+    index_.makeRoom();
     members_.push_back(std::make_unique<localClassMember>(std::move(member)));
     index_.put(members_.back()->name, members_.back().get());
 }
@@ -37,6 +39,13 @@ void localClassDeclaration::memberAdd(localClassMember member) {
 bool localClassDeclaration::methodExec(int& status, localContextUTF8* context, void*& object,
                                        std::u16string_view name, const localArguments* args,
                                        localValueDescription*& result) {
+    return localGuarded(status, name,
+                        [&] { return methodRun(status, context, object, name, args, result); });
+}
+
+bool localClassDeclaration::methodRun(int& status, localContextUTF8* context, void*& object,
+                                      std::u16string_view name, const localArguments* args,
+                                      localValueDescription*& result) {
     assert(localTurn::isHeld());
     const localUpperName upper(name);
     if (result != nullptr) {
@@ -101,7 +110,7 @@ bool localClassDeclaration::attrSet(int& status, localContextUTF8* context, void
     return member->attribSetFunction(status, context, object, name, newValue);
 }
 
-bool localClassDeclaration::destroyObject(int& status, void*& object) {
+bool localClassDeclaration::destroyObject(int& status, void*& object) noexcept {
     const localArguments none;
     localSlot result;
     return methodExec(status, nullptr, object, u"~", &none, result.asResult());

@@ -2,12 +2,13 @@
 
 #include <bit>
 #include <cassert>
-#include <iostream>
 #include <new>
-#include <sstream>
+#include <ostream>
+#include <string>
 
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/host/localHalt.h"
+#include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
@@ -43,9 +44,6 @@ localMemoryManager::~localMemoryManager() {
 }
 
 void localMemoryManager::build() {
-    slots_ = static_cast<localValueDescription*>(
-        ::operator new(capacity_ * sizeof(localValueDescription)));
-    localValueDescription::counterStaticTotal += static_cast<std::int64_t>(capacity_);
     std::size_t bits = capacity_;
     for (Words& level : free_) {
         level.assign((bits + bitsPerWord - 1) / bitsPerWord, ~std::uint64_t{0});
@@ -54,6 +52,10 @@ void localMemoryManager::build() {
         }
         bits = level.size();
     }
+    // Last: a store that has slots stands whole.
+    slots_ = static_cast<localValueDescription*>(
+        ::operator new(capacity_ * sizeof(localValueDescription)));
+    localValueDescription::counterStaticTotal += static_cast<std::int64_t>(capacity_);
 }
 
 // Sets or clears the bit of a slot, and those of the words above that thereby begin or cease to
@@ -106,42 +108,49 @@ void localMemoryManager::slotFreed(const localValueDescription* slot) {
     mark(static_cast<std::size_t>(slot - slots_), true);
 }
 
-void localMemoryManager::memoryDisplayData() {
-    memoryDisplayData(std::cout);
-}
-
-void localMemoryManager::memoryDisplayData(std::ostream& stream) {
+// Writes the listing line by line.
+template <class PutLine>
+void localMemoryManager::list(PutLine put) {
     if (manager == nullptr) {
-        stream << "localMemoryManager::manager not created yet!" << std::endl;
+        put(u"localMemoryManager::manager not created yet!");
         return;
     }
     const std::size_t length = manager->getReservedCount();
-    stream << " [num]  [addr]  [links] [obj-links]" << std::endl;
+    put(u" [num]  [addr]  [links] [obj-links]");
     for (std::size_t i = 0; i < length && length <= longestListing; ++i) {
         static const localValueDescription never;
         const localValueDescription* slot = manager->slots_ + i;
         const localValueDescription& shown = i < manager->constructed_ ? *slot : never;
-        stream << " [" << i << "]  [" << slot << "]  [" << shown.linkCounter << "] ";
+        std::u16string line = u" [" + numberToString(static_cast<double>(i)) + u"]  [" +
+                              addressText(slot) + u"]  [" + numberToString(shown.linkCounter) +
+                              u"] ";
         if (shown.isLive()) {
-            stream << " [" << shown.objectLinks() << "] ";
+            line += u" [" + numberToString(static_cast<double>(shown.objectLinks())) + u"] ";
         }
-        stream << localString::toUtf8(shown.dump()) << std::endl;
+        put(line + shown.dump());
     }
-    stream << "all reserved " << length << std::endl;
-    stream << "used " << manager->used_ << std::endl;
+    put(u"all reserved " + numberToString(static_cast<double>(length)));
+    put(u"used " + numberToString(static_cast<double>(manager->used_)));
     for (const localCounter& counter : localCounters()) {
-        stream << counter.name << ' ' << (counter.total == nullptr ? 0 : *counter.total)
-               << std::endl;
+        const std::int64_t total = counter.total == nullptr ? 0 : *counter.total;
+        put(localString::fromUtf8(counter.name) + u" " +
+            numberToString(static_cast<double>(total)));
     }
-    stream << std::endl;
-    stream << localString::toUtf8(
-                  u"Внимание!!! При вызове из интерпретатора функции memoryDisplayData() два "
-                  u"элемента данных добавляются самим интерпретатором.")
-           << std::endl;
+    put(std::u16string_view());
+    put(u"Внимание!!! При вызове из интерпретатора функции memoryDisplayData() два элемента "
+        u"данных добавляются самим интерпретатором.");
+}
+
+void localMemoryManager::memoryDisplayData() {
+    list([](std::u16string_view line) { writeLine(line); });
+}
+
+void localMemoryManager::memoryDisplayData(std::ostream& stream) {
+    list([&stream](std::u16string_view line) { stream << localString::toUtf8(line) << std::endl; });
 }
 
 void localMemoryManager::dispToLog(std::u16string_view fileName) {
-    std::ostringstream listing;
-    memoryDisplayData(listing);
-    appendToLog(fileName, listing.str(), "dispToLog");
+    std::string listing;
+    list([&listing](std::u16string_view line) { listing += localString::toUtf8(line) + '\n'; });
+    appendToLog(fileName, listing, "dispToLog");
 }

@@ -81,8 +81,12 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
         exit_FAILURE(std::u16string(table.nativeName) +
                      u"::classImplementationMethodFunction() result must be NULL!");
     }
-    result = localMemoryManager::manager->reserveSlot();
     status = localErrorTypeOK;
+    if (object != nullptr && name == u"~") {
+        table.native.destroy(object);  // the one call without a result: it may come when memory ran out
+        return true;
+    }
+    result = localMemoryManager::manager->reserveSlot();
     if (object == nullptr) {
         if (!name.empty()) {
             status = localErrorTypeSTATICCALL;
@@ -94,10 +98,6 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
         }
         object = table.native.construct();
         result->objectBind(object, declaration);
-        return true;
-    }
-    if (name == u"~") {
-        table.native.destroy(object);
         return true;
     }
     if (args == nullptr) {

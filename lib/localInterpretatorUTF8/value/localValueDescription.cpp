@@ -1,10 +1,11 @@
 #include "localInterpretatorUTF8/value/localValueDescription.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <utility>
-#include <vector>
 
 #include "localInterpretatorUTF8/host/localHalt.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
@@ -21,31 +22,65 @@ std::u16string cutForDump(std::u16string_view text) {
     return text.size() > 30 ? std::u16string(text.substr(0, 50)) + u"..." : std::u16string(text);
 }
 
+void destroy(localClassDeclaration* objClass, void* object) noexcept {
+    int status = localErrorTypeOK;
+    objClass->destroyObject(status, object);
+}
+
 // Objects whose last cell is gone. An object that holds others destroys them on its way; a long
 // chain of holders would use up the stack, so destruction runs as a loop over this list and not as
-// a recursion.
-struct Doomed {
-    localClassDeclaration* objClass;
-    void* pointer;
+// a recursion. It must not ask for memory either: an object brings its place in the list along, the
+// list having room for all objects that cells hold at any time.
+//
+// It has no destructor: values of static duration go after it.
+class DoomedObjects {
+public:
+    // Called for an object that its first cell is about to take.
+    void makeRoom() {
+        if (held_ == capacity_) {
+            const std::size_t wider = std::max<std::size_t>(capacity_ * 2, 64);
+            auto* const objects = new Object[wider];
+            std::copy(objects_, objects_ + count_, objects);
+            delete[] objects_;
+            objects_ = objects;
+            capacity_ = wider;
+        }
+        ++held_;
+    }
+
+    void add(localClassDeclaration* objClass, void* object) noexcept {
+        if (held_ != 0) {
+            --held_;
+        }
+        if (count_ == capacity_) {
+            destroy(objClass, object);  // one whose links somebody counted past the cells
+            return;
+        }
+        objects_[count_++] = {objClass, object};
+        if (!destroying_) {
+            destroying_ = true;
+            while (count_ != 0) {
+                const Object next = objects_[--count_];
+                destroy(next.objClass, next.object);
+            }
+            destroying_ = false;
+        }
+    }
+
+private:
+    struct Object {
+        localClassDeclaration* objClass;
+        void* object;
+    };
+
+    Object* objects_ = nullptr;
+    std::size_t count_ = 0;
+    std::size_t capacity_ = 0;
+    std::size_t held_ = 0;
+    bool destroying_ = false;
 };
 
-// Never destroyed: values of static duration go after it.
-std::vector<Doomed>& doomed() {
-    static auto* const objects = new std::vector<Doomed>;
-    return *objects;
-}
-bool destroying = false;
-
-void destroyDoomed() {
-    destroying = true;
-    for (std::size_t i = 0; i < doomed().size(); ++i) {
-        Doomed object = doomed()[i];
-        int status = localErrorTypeOK;
-        object.objClass->destroyObject(status, object.pointer);
-    }
-    doomed().clear();
-    destroying = false;
-}
+constinit DoomedObjects doomed;
 
 }  // namespace
 
@@ -65,7 +100,7 @@ void localValueDescription::addLink() noexcept {
     }
 }
 
-void localValueDescription::dropLink() {
+void localValueDescription::dropLink() noexcept {
     if (!isLive()) {
         return;
     }
@@ -75,16 +110,21 @@ void localValueDescription::dropLink() {
         return;
     }
     type = localValueTypeNUMBER;
-    doomed().push_back({objClass, pointer});
-    if (!destroying) {
-        destroyDoomed();
-    }
+    doomed.add(objClass, pointer);
 }
 
 void localValueDescription::objectBind(void* object, localClassDeclaration* declaration) {
     if (type == localValueTypeOBJECT && pointer == object) {
         objClass = declaration;
         return;
+    }
+    const bool isCounted = object != nullptr && declaration != nullptr &&
+                           declaration->classImplementationLinkFunction != nullptr;
+    if (isCounted && declaration->classImplementationLinkFunction(&object, 0) == 0) {
+        const auto goes = [declaration](void* unheld) { destroy(declaration, unheld); };
+        std::unique_ptr<void, decltype(goes)> unheld(object, goes);
+        doomed.makeRoom();
+        unheld.release();
     }
     reset();
     type = localValueTypeOBJECT;
@@ -105,8 +145,10 @@ localText localValueDescription::toString() const {
             int status = localErrorTypeOK;
             const localArguments none;
             localSlot result;
+            void* object = pointer;
             const bool done =
-                valueMethodExec(status, nullptr, u"toString", &none, result.asResult());
+                objClass != nullptr &&
+                objClass->methodRun(status, nullptr, object, u"toString", &none, result.asResult());
             return done ? result->wStr : localText();
         }
         default:

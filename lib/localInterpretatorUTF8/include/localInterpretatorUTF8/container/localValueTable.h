@@ -54,6 +54,9 @@ public:
     std::size_t rowAdd(std::size_t position = 0);
     // Removes rows and columns; rowActual stays.
     void clear();
+    // Takes the rows and columns behind these numbers off again, which are not above those that
+    // stand.
+    void cut(std::size_t rows, std::size_t columns);
 
     // Copies a value into a cell. Status 7 where there is no such cell.
     bool cellSet(int& status, std::size_t row, std::size_t column,

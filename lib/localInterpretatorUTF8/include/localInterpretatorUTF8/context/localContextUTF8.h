@@ -116,10 +116,10 @@ public:
                                        localContextUTF8** holder = nullptr);
     // Defines a function here. One of this very context is replaced, one of a parent is hidden.
     void funcAdd(std::u16string_view name, std::shared_ptr<const localOperatorCompiled> compiled);
-    // Defines all functions of a compiled block, in order.
+    // Defines all functions of a compiled block, in order, or for want of memory none.
     void moduleImport(const localOperatorCompiled& module);
-    // Calls a function by name. Halts on a non-null `result`. Statuses 24, 31, 19, 20 and what it
-    // sets.
+    // Calls a function by name. Halts on a non-null `result`. Statuses 16 for an exception, 24, 31,
+    // 19, 20 and what it sets.
     bool funcExec(int& status, std::u16string_view name, const localArguments& args,
                   localValueDescription*& result);
     // Runs a compiled body called from this context, with the statuses of a function's end.
@@ -160,8 +160,13 @@ public:
 private:
     bool valueOfUpperName(int& status, std::u16string_view name, const localUpperName& upper,
                           localValueDescription& value);
-    void enter(localContextUTF8* parentContext);
+    struct Entered {};
+    explicit localContextUTF8(Entered);
     localClassDeclaration* registeredFind(std::u16string_view upper) const;
+    bool funcRun(int& status, std::u16string_view name, const localArguments& args,
+                 localValueDescription*& result);
+    void funcAdd(const localText& upper, std::uint32_t hash,
+                 std::shared_ptr<const localOperatorCompiled> compiled);
     void nativeFunctionsAdd();
 
     localContextUTF8* parent_ = nullptr;

@@ -37,7 +37,7 @@ bool scanStringParseJson(int& status, const std::u16string& text, localPosition&
 // Reads an object into the table that the cell holds: columns "key" and "value" are added, and a
 // row for each member. A value is a string or an object, which becomes a table of its own. Status
 // 33 when the cell holds no value table, 34 for what does not fit, with lines that show the place;
-// rows read before stay.
+// rows read before stay. Memory that runs out leaves the table as it was.
 bool scanStringGetValueTableFromJson(int& status, const std::u16string& text, localPosition& pos,
                                      localValueDescription& table);
 

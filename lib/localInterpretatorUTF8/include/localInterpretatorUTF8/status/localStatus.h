@@ -5,6 +5,7 @@
 // console to close.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -74,7 +75,20 @@ inline constexpr std::u16string_view localErrorTypeATTRIBUTEunknown =
     u"localErrorTypeATTRIBUTEunknown";
 
 // The words of a status; a code without words gives "Неизвестный статус возврата ном: " and the
-// code.
+// code. They ask for no memory, so that a line can tell of memory that ran out.
+class localStatusWords {
+public:
+    explicit localStatusWords(int status);
+    localStatusWords(const localStatusWords&) = delete;
+    localStatusWords& operator=(const localStatusWords&) = delete;
+    operator std::u16string_view() const { return words_; }
+
+private:
+    std::u16string_view words_;
+    std::array<char16_t, 48> unknown_;
+};
+
+// The same as a text of its own.
 std::u16string statusMessage(int status);
 
 // What a function's end makes of the status its body left: normal end and RETURN give back the

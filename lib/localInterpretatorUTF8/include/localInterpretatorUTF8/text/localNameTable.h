@@ -5,6 +5,8 @@
 // empties it.
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -15,6 +17,12 @@
 template <class Value>
 class localNameTable {
 public:
+    // Asks for the memory that the next `names` names need.
+    void makeRoom(std::size_t names = 1) {
+        if ((count_ + names) * 2 > cells_.size()) {
+            widen(names);
+        }
+    }
     void put(std::u16string_view name, std::uint32_t hash, Value value) {
         if (!cells_.empty()) {
             Cell& cell = cells_[place(cells_, name, hash)];
@@ -23,9 +31,7 @@ public:
                 return;
             }
         }
-        if ((count_ + 1) * 2 > cells_.size()) {
-            widen();
-        }
+        makeRoom();
         cells_[place(cells_, name, hash)] = {name, hash, true, value};
         ++count_;
     }
@@ -65,8 +71,8 @@ private:
         return at;
     }
 
-    void widen() {
-        std::vector<Cell> wider(cells_.empty() ? 16 : cells_.size() * 2);
+    void widen(std::size_t names) {
+        std::vector<Cell> wider(std::bit_ceil(std::max<std::size_t>((count_ + names) * 2, 16)));
         for (const Cell& cell : cells_) {
             if (cell.used) {
                 wider[place(wider, cell.name, cell.hash)] = cell;

@@ -1,7 +1,9 @@
 // The names of one scope in order of declaration: few are searched in order by hash, many through a
-// table. Of equal names the first is found.
+// table. Of equal names the first is found. A change that finds no memory has changed nothing.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -31,22 +33,33 @@ public:
         return nullptr;
     }
 
+    // Asks for the memory that the next `entries` entries need.
+    void makeRoom(std::size_t entries = 1) {
+        const std::size_t size = entries_.size() + entries;
+        if (size > entries_.capacity()) {
+            entries_.reserve(std::max(size, entries_.size() * 2));
+        }
+        if (index_ == nullptr && size > searchedInOrder) {
+            index_ = indexWithout(entries_.size(), size);
+        } else if (index_ != nullptr) {
+            index_->makeRoom(entries);
+        }
+    }
     Entry& add(Entry entry) {
+        makeRoom();
         entries_.push_back(std::move(entry));
         if (index_ != nullptr) {
-            indexAdd(entries_.size() - 1);
-        } else if (entries_.size() > searchedInOrder) {
-            indexBuild();
+            indexAdd(*index_, entries_.back(), entries_.size() - 1);
         }
         return entries_.back();
     }
 
     Entry remove(std::size_t place) {
+        if (index_ != nullptr) {
+            index_ = indexWithout(place, entries_.size());
+        }
         Entry removed = std::move(entries_[place]);
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(place));
-        if (index_ != nullptr) {
-            indexBuild();
-        }
         return removed;
     }
     Entry removeLast() {
@@ -62,20 +75,25 @@ public:
 
 private:
     static constexpr std::size_t searchedInOrder = 8;
+    using Index = localNameTable<std::uint32_t>;
 
-    void indexAdd(std::size_t place) {
-        const Entry& entry = entries_[place];
-        if (index_->find(entry.name, entry.hash) == nullptr) {
-            index_->put(entry.name, entry.hash, static_cast<std::uint32_t>(place));
+    static void indexAdd(Index& index, const Entry& entry, std::size_t place) {
+        if (index.find(entry.name, entry.hash) == nullptr) {
+            index.put(entry.name, entry.hash, static_cast<std::uint32_t>(place));
         }
     }
-    void indexBuild() {
-        index_ = std::make_unique<localNameTable<std::uint32_t>>();
+    // An index of the entries but for the one at a place, with room for so many in all.
+    std::unique_ptr<Index> indexWithout(std::size_t left, std::size_t room) const {
+        auto index = std::make_unique<Index>();
+        index->makeRoom(room);
         for (std::size_t i = 0; i < entries_.size(); ++i) {
-            indexAdd(i);
+            if (i != left) {
+                indexAdd(*index, entries_[i], i < left ? i : i - 1);
+            }
         }
+        return index;
     }
 
     std::vector<Entry> entries_;
-    std::unique_ptr<localNameTable<std::uint32_t>> index_;
+    std::unique_ptr<Index> index_;
 };

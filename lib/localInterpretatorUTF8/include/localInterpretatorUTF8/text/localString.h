@@ -4,6 +4,7 @@
 // What they cannot write becomes byte 255, what they cannot read becomes the code unit 255.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,9 @@ inline std::string toUtf8(std::u16string_view text) {
 inline std::u16string fromUtf8(std::string_view bytes) {
     return fromBytes(bytes, codePageUtf8);
 }
+
+// One code unit as UTF-8, for who must not ask for memory. Gives the number of bytes.
+std::size_t toUtf8(char16_t unit, char (&bytes)[2]);
 
 // Base64 (RFC 4648, with padding) of bytes, and back; units outside the alphabet are passed over.
 std::u16string toBase64(std::string_view bytes);

@@ -76,10 +76,13 @@ public:
     }
 
     // Runs a method by name. Halts on a non-null `result`. Statuses 11, 12 for a static call
-    // without such a member, 27 where an object has neither member nor class-wide function, and
-    // what it sets.
+    // without such a member, 27 where an object has neither member nor class-wide function, 16 for
+    // an exception of the method, and what it sets.
     bool methodExec(int& status, localContextUTF8* context, void*& object, std::u16string_view name,
                     const localArguments* args, localValueDescription*& result);
+    // As methodExec for who has no status to tell: exceptions go on to the caller.
+    bool methodRun(int& status, localContextUTF8* context, void*& object, std::u16string_view name,
+                   const localArguments* args, localValueDescription*& result);
     // Reads an attribute; the name is looked up as given. Statuses 8, 10, 13. Halts on a non-null
     // `result`.
     bool attrGet(int& status, localContextUTF8* context, void*& object, std::u16string_view name,
@@ -88,7 +91,7 @@ public:
     bool attrSet(int& status, localContextUTF8* context, void*& object, std::u16string_view name,
                  const localValueDescription* newValue);
     // Runs "~" on an object.
-    bool destroyObject(int& status, void*& object);
+    bool destroyObject(int& status, void*& object) noexcept;
 
     // "nameRus (nameEng)  - description ".
     std::u16string summary() const;

@@ -53,6 +53,8 @@ public:
 private:
     using Words = std::vector<std::uint64_t>;
 
+    template <class PutLine>
+    static void list(PutLine put);
     void build();
     void mark(std::size_t index, bool free);
 

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <type_traits>
@@ -168,7 +169,7 @@ template <const localClassTable& table>
 localClassDeclaration* localTableClass() {
     static localClassDeclaration* const declaration = [] {
         static localMethodRows rows(table.methods);
-        auto* made = new localClassDeclaration;
+        auto made = std::make_unique<localClassDeclaration>();
         made->methodRows = &rows;
         localDeclareFromTable(
             *made, table,
@@ -185,7 +186,7 @@ localClassDeclaration* localTableClass() {
                const localValueDescription* newValue) {
                 return localTableAttributeSet(table, status, context, object, name, newValue);
             });
-        return made;
+        return made.release();
     }();
     return declaration;
 }

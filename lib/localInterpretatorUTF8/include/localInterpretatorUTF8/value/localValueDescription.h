@@ -68,7 +68,7 @@ public:
     // Lets go of the object, running the class's "~" when this was its last cell, and becomes the
     // number 0. Class, pointer and text keep their old content on purpose: every writer overwrites
     // them.
-    void reset() {
+    void reset() noexcept {
         if (type == localValueTypeOBJECT) {
             dropLink();
         }
@@ -79,7 +79,7 @@ public:
     // The value copy used everywhere, also by "=": reset(), copy all content, one more object link.
     // Not guarded against itself: a cell that is the last holder of its object and is assigned to
     // itself destroys the object. Meant.
-    void assign(const localValueDescription& source) {
+    void assign(const localValueDescription& source) noexcept {
         reset();
         type = source.type;
         num = source.num;
@@ -104,27 +104,29 @@ public:
         source.num = 0.0;
     }
 
-    void setVal(double number) {
+    void setVal(double number) noexcept {
         reset();
         num = number;
     }
-    void setVal(localText text) {
+    void setVal(localText text) noexcept {
         reset();
         type = localValueTypeSTRING;
         wStr = std::move(text);
     }
-    void setBoolean(bool value) {
+    void setBoolean(bool value) noexcept {
         reset();
         type = localValueTypeBOOLEAN;
         num = value ? 1.0 : 0.0;
     }
 
     // Holds an object. A cell that has the same object already only changes its class; otherwise
-    // the object gains a link, so that a new object, made with count 0, reaches 1 here.
+    // the object gains a link, so that a new object, made with count 0, reaches 1 here. A new
+    // object asks for memory here, for the sake of its end; one that cannot be held is destroyed.
     void objectBind(void* object, localClassDeclaration* declaration);
 
     // Number: its text. String: itself. Boolean: "ЛОЖЬ" for 0, else "ИСТИНА". Object: what its
-    // method "toString" answers, empty when the call fails.
+    // method "toString" answers, empty when the call fails; memory that runs out in there is no
+    // failure but goes on to the caller.
     localText toString() const;
     // Number: itself. String: as atof. Boolean: 1 or 0. Object: nothing of meaning.
     double toNumber() const;
@@ -163,7 +165,7 @@ public:
 
 private:
     void addLink() noexcept;
-    void dropLink();
+    void dropLink() noexcept;
 };
 
 // An address as listings show it: hexadecimal with "0x".
