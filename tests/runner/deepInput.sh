@@ -30,10 +30,10 @@ deep '100,000 FORs'
 deep '100,000 functions'
 { printf '? '; repeated 100000 'abs('; printf 1; repeated 100000 ')'; echo ';'; } >deep.prg
 deep '100,000 calls'
-{ printf '? '; repeated 100000 '1?'; printf 1; repeated 100000 ':1'; echo ';'; } >deep.prg
-deep '100,000 conditionals'
-{ printf '? '; repeated 100000 '1?2:'; echo '1;'; } >deep.prg
-deep '100,000 conditionals in a row'
+{ printf '? '; repeated 300000 '1?'; printf 1; repeated 300000 ':1'; echo ';'; } >deep.prg
+deep '300,000 conditionals'
+{ printf '? '; repeated 300000 '1?2:'; echo '1;'; } >deep.prg
+deep '300,000 conditionals in a row'
 { printf '? '; repeated 100000 '('; } >deep.txt
 wants 1 "$tooDeep" '100,000 parentheses typed' <deep.txt
 { printf 'c = contextget(); x = 5; ? '; repeated 100000 'c.'; echo 'x;'; } >deep.prg

@@ -252,7 +252,7 @@ bool localContextUTF8::createObj(int& status, std::u16string_view className,
     }
     void* object = nullptr;
     localSlot made;
-    if (declaration->methodExec(status, this, object, u"", nullptr, made.asResult())) {
+    if (declaration->methodRun(status, this, object, u"", nullptr, made.asResult())) {
         result->assign(*made);
     }
     return status == localErrorTypeOK;

@@ -95,7 +95,7 @@ bool moduleLoad(localCall& call) {
     std::u16string module;
     if (!fileRead(fileName, module, localString::codePageUtf8)) {
         writeLine(u"Error! ");
-        traceLine(statusMessage(localErrorTypeFILENOTFOUND), functionName);
+        traceLine(localStatusWords(localErrorTypeFILENOTFOUND), functionName);
         return call.giveBoolean(false);
     }
     // A module may load itself.

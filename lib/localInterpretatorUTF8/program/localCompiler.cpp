@@ -465,7 +465,7 @@ private:
     bool restFailed() {
         traceLine(std::u16string_view(text_).substr(pos_ < text_.size() ? pos_ : text_.size()),
                   "textCompile");
-        traceLine(statusMessage(status_), "textCompile");
+        traceLine(localStatusWords(status_), "textCompile");
         return false;
     }
 

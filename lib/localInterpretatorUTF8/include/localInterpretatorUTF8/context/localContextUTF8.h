@@ -139,7 +139,7 @@ public:
     // names.
     bool classRegister(localClassDeclaration* declaration);
     // A new object of a class. Halts on a non-null `result`. Statuses 14, 26 for one whose library
-    // cannot come, 11 and what the class sets.
+    // cannot come, 11 and what the class sets; exceptions go on to the caller.
     bool createObj(int& status, std::u16string_view className, localValueDescription*& result);
     const std::vector<localClassDeclaration*>& classes() const { return classes_; }
 
