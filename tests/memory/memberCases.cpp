@@ -13,10 +13,10 @@ const std::string fullList =
     list + "FOR i=21 TO 32 DO l.VALUEADD(i, \"presentation \"+STRING(i)); ENDDO; ";
 // As many columns as are searched without a table of names.
 const std::string table =
-    "t = CREATEOBJECT(\"VALUETABLE\"); FOR i=1 TO 8 DO t.COLUMNADD(\"column \"+STRING(i)); ENDDO; "
-    "FOR i=1 TO 4 DO t.ROWADD(); t.VALUESET(i, 1, 10-i); t.VALUESET(i, 2, \"a text \"+STRING(i)); "
-    "ENDDO; t.COLUMNADD(\"name\"); t.VALUESET(1, \"name\", CREATEOBJECT(\"VALUELIST\")); "
-    "t.ROWACTUALSET(1); ";
+    "t = CREATEOBJECT(\"VALUETABLE\"); FOR i=1 TO 7 DO t.COLUMNADD(\"column \"+STRING(i)); ENDDO; "
+    "t.COLUMNADD(\"name\"); FOR i=1 TO 4 DO t.ROWADD(); t.VALUESET(i, 1, 10-i); "
+    "t.VALUESET(i, 2, \"a text \"+STRING(i)); ENDDO; "
+    "t.VALUESET(1, \"name\", CREATEOBJECT(\"VALUELIST\")); t.ROWACTUALSET(1); ";
 const std::string test = "CLASSLOAD(\"TEST\"); o = CREATEOBJECT(\"TEST\"); ";
 
 }  // namespace

@@ -280,7 +280,14 @@ childEnd startedAnew(std::size_t number, failingMemory::Mode mode) {
     const int status = run();
     const std::size_t refused = failingMemory::end();
     const bool told = countOf(output.text(), memoryLine) == 1;
-    if (status != localErrorTypeOK && (status != localErrorTypeCODE || !told || refused == 0)) {
+    const std::int64_t contexts = localContextUTF8::globalContext == nullptr ? 0 : 1;
+    const bool inOrder = localContextUTF8::counterStaticTotal == contexts &&
+                         localValueList::counterStaticTotal == 0 &&
+                         localValueTable::counterStaticTotal == 0 &&
+                         (localMemoryManager::manager == nullptr ||
+                          localMemoryManager::manager->getUsedCount() == 0);
+    const bool ranOut = status == localErrorTypeCODE && told && refused != 0;
+    if (!inOrder || (status != localErrorTypeOK && !ranOut)) {
         std::cerr << "request " << number << ": status " << status << "\n" << output.text();
         return endedWrong;
     }

@@ -300,4 +300,24 @@ TEST_F(localValueTableTest, sortOfAHundredThousandReversedRowsIsNoMatterOfTheirS
     }
 }
 
+TEST_F(localValueTableTest, cutTakesOffTheRowsAndColumnsBehind) {
+    localValueTable table;
+    for (const char16_t* name : {u"a", u"b", u"c"}) {
+        table.columnAdd(name);
+    }
+    for (int row = 0; row < 3; ++row) {
+        table.rowAdd();
+        table.cell(static_cast<std::size_t>(row), 0).setVal(row + 1.0);
+    }
+    table.cut(2, 1);
+    EXPECT_EQ(cellsOf(table), "1;2;");
+    EXPECT_EQ(table.columnNumber(u"a"), 1U);
+    EXPECT_EQ(table.columnNumber(u"b"), 0U);
+    table.columnAdd(u"d");
+    table.rowAdd();
+    EXPECT_EQ(cellsOf(table), "1,0;2,0;0,0;");
+    table.cut(3, 2);
+    EXPECT_EQ(cellsOf(table), "1,0;2,0;0,0;");
+}
+
 }  // namespace

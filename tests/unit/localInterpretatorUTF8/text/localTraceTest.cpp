@@ -23,6 +23,43 @@ TEST(localTrace, aTraceLineIsTheTextAndTheTailOfItsPlace) {
     EXPECT_EQ(output.text(), "ОШИБКА func: делать" + hereOnLine(line));
 }
 
+TEST(localTrace, aFunctionOfTheLanguageHasItsOwnName) {
+    const capturedOutput output;
+    const unsigned line = __LINE__ + 1;
+    traceLine(u"ОШИБКА", u"СДЕЛАТЬ");
+    EXPECT_EQ(output.text(), "ОШИБКА func: СДЕЛАТЬ" + hereOnLine(line));
+}
+
+TEST(localTrace, aLineIsPutTogetherOfPieces) {
+    const capturedOutput output;
+    const std::u16string name = u"имя";
+    writeLine({u">> ", name, u"=", u"", u"1; "});
+    traceLine({u"a", u"b"}, "run", std::source_location());
+    EXPECT_EQ(output.text(), ">> имя=1; \nab func: run file:  line: 0\n");
+}
+
+TEST(localTrace, aLineOfAnyLengthIsWholeWhereverItIsCut) {
+    const capturedOutput output;
+    std::u16string text;
+    std::string wanted;
+    for (int i = 0; i < 5000; ++i) {
+        text += u"aж"[i % 2 == 0 || i % 7 == 0 ? 1 : 0];
+        wanted += i % 2 == 0 || i % 7 == 0 ? "ж" : "a";
+    }
+    writeLine(text);
+    EXPECT_EQ(output.text(), wanted + "\n");
+}
+
+TEST(localTrace, whatTheStreamThrowsGoesOnAndLeavesTheStreamAsItWas) {
+    class throwing : public std::streambuf {
+        std::streamsize xsputn(const char*, std::streamsize) override { throw std::bad_alloc(); }
+    } buffer;
+    std::streambuf* before = std::cout.rdbuf(&buffer);
+    EXPECT_THROW(writeLine(u"line"), std::bad_alloc);
+    std::cout.rdbuf(before);
+    EXPECT_TRUE(std::cout.good());
+}
+
 TEST(localTrace, aLineIsWrittenInUtf8WithALineEnd) {
     const capturedOutput output;
     writeLine(u"Привет, ёж");
