@@ -12,7 +12,7 @@
 #include "debugTest.h"
 #include "localConsole/help/localConsoleHelpBrowser.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
-#include "localInterpretatorUTF8/library/localLibrary.h"
+#include "localInterpretatorUTF8/library/localExtension.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
@@ -134,6 +134,12 @@ bool networkWait(localCall& call) {
     return call.give(200.0);
 }
 
+constexpr localExtensionFunction standIns[] = {
+    {u"FORMOPEN", windowOpen},
+    {u"FORMEDIT", dialogOpen},
+    {u"NETWORKREQUESTEXECSYNC", networkWait},
+};
+
 // A call that a program under DEBUG makes. A library that brings one that opens, asks or waits adds
 // a row.
 struct Case {
@@ -193,9 +199,7 @@ class languageTurn : public debugTest {
 private slots:
     void init() {
         debugTest::init();
-        localLibrary::install(u"FORMOPEN", windowOpen);
-        localLibrary::install(u"FORMEDIT", dialogOpen);
-        localLibrary::install(u"NETWORKREQUESTEXECSYNC", networkWait);
+        localExtensionAdd({.name = u"stand-ins", .functions = standIns});
         write("fib.prg",
               "FUNCTION fib(n)\nIF n<2 THEN RETURN n; ENDIF;\nRETURN fib(n-1)+fib(n-2);\n"
               "ENDFUNCTION;\n");

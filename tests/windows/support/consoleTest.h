@@ -23,6 +23,7 @@
 #include "localVCL/host/localVclHost.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localMainWindow.h"
+#include "localVCL/window/localVclTurn.h"
 #include "madeOf.h"
 #include "support/recordingHost.h"
 #include "testFiles.h"
@@ -127,6 +128,7 @@ private slots:
         std::setlocale(LC_NUMERIC, "C");
         localMemoryManager::start();
         addWhatKorvoIsMadeOf();
+        localVclTurnInstall();
         QVERIFY(QDir::setCurrent(folder_.path()));
         localStd::startDirectory();
     }
