@@ -15,6 +15,7 @@
 #include "localInterpretatorUTF8/library/localExtension.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localRandom.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 #include "localVCL/dialog/localVclListDialog.h"
@@ -307,6 +308,21 @@ private slots:
         QVERIFY(worksThrough());
         QCOMPARE(variable(u"a"), QString("1"));
         QVERIFY2(output_.isEmpty(), qPrintable(output_.join('|')));
+    }
+
+    // A scope of its own would begin the random sequence again.
+    void editorMakesNoScope() {
+        localRandomSeed(1);
+        localRandom();
+        const auto second = localRandom();
+        localRandomSeed(1);
+        localRandom();
+        const auto contexts = localContextUTF8::counterStaticTotal;
+        const auto usedSlots = localMemoryManager::manager->getUsedCount();
+        const localVclWidgetEditor editor(u"other.prg", u"x = STRINGLEN(\"text\");\n");
+        QCOMPARE(localRandom(), second);
+        QCOMPARE(localContextUTF8::counterStaticTotal, contexts);
+        QCOMPARE(localMemoryManager::manager->getUsedCount(), usedSlots);
     }
 
     void listOfProceduresComesWhenTheTurnIsFree() {
