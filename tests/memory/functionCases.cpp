@@ -29,7 +29,7 @@ std::vector<memoryCase> functionCases() {
         {.name = "STRINGPARTRIGHT", .text = "STRINGPARTRIGHT(" + quoted + ", 50)"},
         {.name = "STRINGPARTREPLACE",
          .text = "STRINGPARTREPLACE(" + quoted + ", \"e\", \"another\", 5)"},
-        {.name = "STRINGSHOW", .text = "STRINGSHOW(\"a\")"},
+        {.name = "STRINGSHOW", .text = "STRINGSHOW(l)", .setup = list},
         {.name = "STRINGTOUPPER", .text = "STRINGTOUPPER(" + quoted + ")"},
         {.name = "UPPER", .text = "UPPER(" + quoted + ")"},
         {.name = "STRINGTRIMALL", .text = "STRINGTRIMALL(\"  a text  \")"},

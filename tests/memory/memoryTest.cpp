@@ -53,7 +53,7 @@ private:
     std::streambuf* before_;
 };
 
-// Answers without a request for memory.
+// Answers at once.
 class answeringHost : public localHost {
 public:
     answeringHost() { install(this); }
@@ -61,6 +61,12 @@ public:
     answeringHost(const answeringHost&) = delete;
     answeringHost& operator=(const answeringHost&) = delete;
 
+    bool hasScreen() const override { return true; }
+    bool showMessage(const localReport&) override { return true; }
+    bool showText(std::u16string_view, std::u16string_view) override { return true; }
+    std::optional<std::u16string> chooseDate(std::u16string_view) override {
+        return u"a date of the calendar";
+    }
     bool showList(std::u16string_view, const std::vector<std::u16string>&) override { return true; }
     std::optional<std::size_t> chooseRow(std::u16string_view, const std::vector<std::u16string>&,
                                          std::size_t) override {
@@ -103,7 +109,7 @@ protected:
     memoryTest() {
         if (localContextUTF8::globalContext == nullptr) {
             int status = localErrorTypeOK;
-            localContextUTF8::createGlobal(status);
+            localContextUTF8::createGlobal(status).release();  // lives to the end of the process
         }
         localDateTime::classDeclaration();
         localSlot::reserve();

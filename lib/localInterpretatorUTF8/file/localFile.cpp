@@ -114,11 +114,13 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::
         written = std::fclose(file.release()) == 0 && written;
     }
     if (!written) {
-        const std::u16string words = u"Ошибка записи файла [" + std::u16string(fileName) + u"]\n" +
-                                     localString::fromUtf8(traceTail("fileWrite"));
+        const localReport failure{.kind = localReport::Kind::critical,
+                                  .title = u"save",
+                                  .text = u"Ошибка записи файла [" + std::u16string(fileName) +
+                                          u"]\n" + localString::fromUtf8(traceTail("fileWrite"))};
         localHost& host = localHost::current();
         host.setCursor(localHost::Cursor::arrow);
-        host.report({.kind = localReport::Kind::critical, .title = u"save", .text = words});
+        host.report(failure);
         host.setCursor(localHost::Cursor::restored);
     }
     return written;

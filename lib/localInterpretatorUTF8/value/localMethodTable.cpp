@@ -83,7 +83,8 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
     }
     status = localErrorTypeOK;
     if (object != nullptr && name == u"~") {
-        table.native.destroy(object);  // the one call without a result: it may come when memory ran out
+        table.native.destroy(
+            object);  // the one call without a result: it may come when memory ran out
         return true;
     }
     result = localMemoryManager::manager->reserveSlot();
