@@ -1,6 +1,15 @@
 # Names of the libraries that this tree builds, in the order of the floors.
 set_property(GLOBAL PROPERTY KORVO_LIBRARIES "")
 
+# What the test of the includes reads: a line for each library and program of this tree.
+set_property(GLOBAL PROPERTY KORVO_HOUSE "")
+
+# korvo_house(NAME folder named...): takes up a library or program that names these libraries.
+function(korvo_house name folder)
+    list(JOIN ARGN " " named)
+    set_property(GLOBAL APPEND_STRING PROPERTY KORVO_HOUSE "${name} ${folder} ${named}\n")
+endfunction()
+
 # korvo_present(OUT name...): those of the names that are targets of this tree.
 function(korvo_present out)
     set(present "")
@@ -25,7 +34,8 @@ function(korvo_sources out folder)
     set(${out} "${files}" PARENT_SCOPE)
 endfunction()
 
-# korvo_qt_link(TARGET visibility comps...): Qt's modules, and the code generators that go with them.
+# korvo_qt_link(TARGET visibility comps...): Qt's modules, and the code generators that go with
+# them.
 function(korvo_qt_link target visibility)
     list(TRANSFORM ARGN PREPEND "Qt6::" OUTPUT_VARIABLE modules)
     target_link_libraries(${target} ${visibility} ${modules})
@@ -36,7 +46,7 @@ endfunction()
 #
 # One library of the house: sources of lib/NAME (or FOLDER) with everything below it, public headers
 # in its include/NAME/. Users of the library see that include folder only; the library sees its own
-# folder besides, and the libraries it names.
+# folder besides, and the libraries it names. It names every library whose headers it includes.
 function(korvo_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "LTO" "FOLDER" "QT;DEPENDS")
     if(NOT arg_FOLDER)
@@ -68,4 +78,5 @@ function(korvo_library name)
         korvo_lto_objects(${name})
     endif()
     set_property(GLOBAL APPEND PROPERTY KORVO_LIBRARIES ${name})
+    korvo_house(${name} "${arg_FOLDER}" ${arg_DEPENDS})
 endfunction()

@@ -53,6 +53,7 @@ function(korvo_program name)
     endif()
     korvo_lto_link(${name})
     add_dependencies(korvo_programs ${name})
+    korvo_house(${name} "${arg_FOLDER}" ${arg_DEPENDS})
     install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
@@ -94,8 +95,8 @@ function(korvo_program_module name)
     install(TARGETS ${name} LIBRARY DESTINATION bin)
 endfunction()
 
-# korvo_samples(FOLDER): sample programs, forms, data and the manual, laid beside the programs in the
-# build tree and where they are installed. Copied, since programs started there write files; and
+# korvo_samples(FOLDER): sample programs, forms, data and the manual, laid beside the programs in
+# the build tree and where they are installed. Copied, since programs started there write files; and
 # copied again only when a sample changed.
 function(korvo_samples folder)
     set(source "${PROJECT_SOURCE_DIR}/${folder}")

@@ -25,8 +25,8 @@ showProgress() {
     fi
 }
 
-# buildPreset PRESET TARGET [cmake options...]: configures and builds below $root; when a tool fails,
-# prints what it said from the first failure on and gives its status.
+# buildPreset PRESET TARGET [cmake options...]: configures and builds below $root; when a tool
+# fails, prints what it said from the first failure on and gives its status.
 buildPreset() {
     local preset=$1 target=$2
     shift 2

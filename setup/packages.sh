@@ -4,13 +4,14 @@ packagesFile="$(dirname "${BASH_SOURCE[0]}")/packages.txt"
 
 # missingPackages GROUP...: names of the packages of the groups that are not installed, a line each.
 missingPackages() {
-    local group package reason
+    local group package reason state
     while read -r group package reason; do
         case " $* " in
             *" $group "*) ;;
             *) continue ;;
         esac
-        if [[ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]]; then
+        state="$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)"
+        if [[ $state != installed ]]; then
             echo "$package"
         fi
     done < "$packagesFile"

@@ -1,5 +1,6 @@
 #!/bin/bash
-# A program run by the window program without a console: behind a thousand words on the command line.
+# A program run by the window program without a console: behind a thousand words on the command
+# line.
 export QT_QPA_PLATFORM=offscreen
 korvo="$KORVO_BIN_DIR/korvo"
 

@@ -75,8 +75,9 @@ expectFile sum.txt 109
 enter 'RUN "touch behindTheEnd"'
 expectFile behindTheEnd ''
 
-# Another DEBUG begins with an editor of its own. When the console closes at a stop, the program does not go
-# on and its editor goes, too; that of the program that has ended stays until it is closed.
+# Another DEBUG begins with an editor of its own. When the console closes at a stop, the program
+# does not go on and its editor goes, too; that of the program that has ended stays until it is
+# closed.
 rm sum.txt
 enter 'DEBUG sum.prg'
 waitFor 30 hasEditors 2 || fail "no second editor"

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The end of the slots in a program under DEBUG: the box comes up, and the process ends with exit code 1 though
-# it is another thread than that of the windows that halts it.
+# The end of the slots in a program under DEBUG: the box comes up, and the process ends with exit
+# code 1 though it is another thread than that of the windows that halts it.
 source "$KORVO_SOURCE/tests/desktop/support/display.sh"
 
 for ((i = 0; i <= 102400; ++i)); do

@@ -1,6 +1,6 @@
 #!/bin/bash
-# Input that is no program, or hardly one: the terminal program answers with its exit code and words.
-# Exit codes: 0 value 1, 1 compile or run error, 2 unreadable.
+# Input that is no program, or hardly one: the terminal program answers with its exit code and
+# words. Exit codes: 0 value 1, 1 compile or run error, 2 unreadable.
 
 . "${BASH_SOURCE%/*}/support/wants.sh"
 

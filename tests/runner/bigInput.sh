@@ -3,7 +3,8 @@
 
 . "${BASH_SOURCE%/*}/support/wants.sh"
 
-overflow='^Error!!!  Memory manager \(localMemoryManager\) overflow\. Resize not available func: exit_FAILURE '
+overflow='^Error!!!  Memory manager \(localMemoryManager\) overflow\. Resize not available func: '
+overflow+='exit_FAILURE '
 
 {
     echo 'x = 0;'
@@ -20,7 +21,11 @@ wants 0 '^-2000000$' 'huge line of all priorities' line.prg
 wants 0 '^10000000$' 'huge string' line.prg
 { printf '? 0'; repeated 1000000 +1; } >line.txt
 wants 0 '^1000000$' 'huge line on standard input' <line.txt
-{ echo 'IF 1=2 THEN ? 1;'; yes 'ELSEIF 1=2 THEN ? 2;' | head -n 20000; echo 'ELSE ? 3; ENDIF;'; } >long.prg
+{
+    echo 'IF 1=2 THEN ? 1;'
+    yes 'ELSEIF 1=2 THEN ? 2;' | head -n 20000
+    echo 'ELSE ? 3; ENDIF;'
+} >long.prg
 wants 0 '^3$' '20,000 branches' long.prg
 
 # --- a string that doubles for ever, with memory for less than the longest string
@@ -28,7 +33,8 @@ cat >doubles.prg <<'KORVO'
 s = "0123456789abcdef";
 WHILE 1 DO s = s+s; ENDDO;
 KORVO
-# A build with the address sanitizer reserves addresses without end and is limited by its own option.
+# A build with the address sanitizer reserves addresses without end and is limited by its own
+# option.
 cat >limited <<'SHELL'
 #!/bin/bash
 if (ulimit -v 1000000 && "$UNLIMITED" --version) >/dev/null 2>&1; then

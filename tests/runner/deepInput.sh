@@ -41,7 +41,11 @@ wants 0 '^5$' 'path of 100,000 steps' deep.prg
 
 echo 'FUNCTION f(x) RETURN f(x+1); ENDFUNCTION; ? f(1);' >recursion.prg
 wants 1 "$tooDeep" 'endless recursion' recursion.prg
-echo 'FUNCTION f(x) x = g(x); ENDFUNCTION; FUNCTION g(x) WHILE f(x) DO x=1; ENDDO; ENDFUNCTION; f(1);' >recursion.prg
+cat >recursion.prg <<'KORVO'
+FUNCTION f(x) x = g(x); ENDFUNCTION;
+FUNCTION g(x) WHILE f(x) DO x=1; ENDDO; ENDFUNCTION;
+f(1);
+KORVO
 wants 1 "$tooDeep" 'endless recursion of two' recursion.prg
 echo 'DO recursion.prg ;' >recursion.prg
 wants 1 "$tooDeep" 'program that runs itself' recursion.prg

@@ -1,6 +1,6 @@
 #!/bin/sh
-# inFreshFolder.sh FOLDER COMMAND...: runs the command in the folder, emptied before, with a stack of
-# KORVO_STACK_KB kilobytes where that is set.
+# inFreshFolder.sh FOLDER COMMAND...: runs the command in the folder, emptied before, with a stack
+# of KORVO_STACK_KB kilobytes where that is set.
 set -e
 folder=$1
 shift

@@ -2,6 +2,7 @@
 // arrow.
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 // The arrow cursor as long as this object lives, if another one was forced.

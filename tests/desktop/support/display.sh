@@ -20,7 +20,8 @@ endOwnProcesses() {
 }
 trap endOwnProcesses EXIT
 
-# waitFor SECONDS COMMAND...: runs the command again and again until it succeeds. Fails after the time.
+# waitFor SECONDS COMMAND...: runs the command again and again until it succeeds. Fails after the
+# time.
 waitFor() {
     local end=$((SECONDS + $1))
     shift
@@ -32,7 +33,8 @@ waitFor() {
 
 # A screen of 1280 by 960, a window manager, and a keyboard with both alphabets.
 startDisplay() {
-    # The server takes a number that is free and tells it. It must not begin anew when a client goes.
+    # The server takes a number that is free and tells it. It must not begin anew when a client
+    # goes.
     Xvfb -displayfd 3 -noreset -screen 0 1280x960x24 -nolisten tcp 3>display.number 2>xvfb.log &
     ownProcesses=("$!" "${ownProcesses[@]}")
     waitFor 30 test -s display.number || fail "no display"
@@ -43,14 +45,16 @@ startDisplay() {
     ownProcesses=("$!" "${ownProcesses[@]}")
     waitFor 30 windowManagerStands || fail "no window manager"
     # It takes keys a while later: its key for the bare desktop tells when.
-    waitFor 30 toggleDesktop 1 && waitFor 30 toggleDesktop 0 || fail "the window manager takes no keys"
+    waitFor 30 toggleDesktop 1 && waitFor 30 toggleDesktop 0 ||
+        fail "the window manager takes no keys"
 }
 
 windowManagerStands() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# toggleDesktop STATE: whether that was what it took to show the bare desktop (1) or the windows (0).
+# toggleDesktop STATE: whether that was what it took to show the bare desktop (1) or the windows
+# (0).
 toggleDesktop() {
     xdotool key super+d
     sleep 0.1
@@ -73,8 +77,8 @@ consoleIsActive() {
     [[ "$(xdotool getactivewindow)" == "$console" ]]
 }
 
-# Keys pressed while korvo is busy are dropped. So these wait until it has done with what came before; the
-# ones whose names end in AtOnce do not.
+# Keys pressed while korvo is busy are dropped. So these wait until it has done with what came
+# before; the ones whose names end in AtOnce do not.
 typeText() {
     waitForRest
     typeAtOnce "$1"
@@ -115,7 +119,8 @@ isAtRest() {
 
 # Whether the windows' thread sleeps, and how often it has gone to sleep.
 restOf() {
-    sed -n 's/^State:\t\(.\).*/\1/p; s/^voluntary_ctxt_switches:\t//p' "/proc/$korvo/task/$korvo/status"
+    sed -n 's/^State:\t\(.\).*/\1/p; s/^voluntary_ctxt_switches:\t//p' \
+        "/proc/$korvo/task/$korvo/status"
 }
 
 # expectFile NAME TEXT: the file comes to hold the text.

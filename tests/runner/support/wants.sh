@@ -2,9 +2,9 @@
 
 failures=0
 
-# wants CODE PATTERN NAME ARGUMENT...: runs the program; its exit code must be CODE and its output must
-# hold a line that matches PATTERN, an extended regular expression. An empty PATTERN means that no output
-# is wanted. Standard input is that of the call.
+# wants CODE PATTERN NAME ARGUMENT...: runs the program; its exit code must be CODE and its output
+# must hold a line that matches PATTERN, an extended regular expression. An empty PATTERN means that
+# no output is wanted. Standard input is that of the call.
 wants() {
     local code=$1 pattern=$2 name=$3
     shift 3

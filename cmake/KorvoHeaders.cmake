@@ -1,0 +1,56 @@
+# korvo_headers_alone(): every header of the targets made in this directory compiles on its own. A
+# source for each includes it and nothing else; they are compiled with the tests and used by nobody.
+# A public header sees what users of its library see, any other one what its target sees.
+function(korvo_headers_alone)
+    if(NOT KORVO_TESTS OR KORVO_SANITIZE OR KORVO_THREADS)
+        return()
+    endif()
+    get_property(targets DIRECTORY PROPERTY BUILDSYSTEM_TARGETS)
+    foreach(target IN LISTS targets)
+        get_target_property(type ${target} TYPE)
+        if(NOT type MATCHES "STATIC_LIBRARY|EXECUTABLE")
+            continue()
+        endif()
+        get_target_property(headers ${target} SOURCES)
+        list(FILTER headers INCLUDE REGEX "\\.h$")
+        set(public "${headers}")
+        list(FILTER public INCLUDE REGEX "/include/")
+        list(REMOVE_ITEM headers ${public})
+        korvo_header_sources(headers_${target} HEADERS ${public} LINK ${target})
+        get_target_property(libraries ${target} LINK_LIBRARIES)
+        korvo_header_sources(headers_inner_${target}
+            HEADERS ${headers}
+            INCLUDES $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>
+            LINK ${libraries})
+        # What every source of the target begins with, its headers begin with as well.
+        get_target_property(precompiled ${target} PRECOMPILE_HEADERS)
+        if(precompiled AND TARGET headers_inner_${target})
+            target_precompile_headers(headers_inner_${target} REUSE_FROM ${target})
+        endif()
+    endforeach()
+endfunction()
+
+# korvo_header_sources(NAME HEADERS files... INCLUDES folders... LINK libs...)
+function(korvo_header_sources name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;INCLUDES;LINK")
+    if(NOT arg_HEADERS)
+        return()
+    endif()
+    set(sources "")
+    foreach(header IN LISTS arg_HEADERS)
+        # Relative, so that the compiler cache serves every copy of the tree.
+        cmake_path(RELATIVE_PATH header BASE_DIRECTORY "${PROJECT_SOURCE_DIR}"
+            OUTPUT_VARIABLE path)
+        set(source "${PROJECT_BINARY_DIR}/headers/${path}.cpp")
+        cmake_path(GET source PARENT_PATH folder)
+        cmake_path(RELATIVE_PATH header BASE_DIRECTORY "${folder}")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${header}\"\n")
+        list(APPEND sources "${source}")
+    endforeach()
+    add_library(${name} OBJECT ${sources})
+    target_include_directories(${name} PRIVATE ${arg_INCLUDES})
+    target_link_libraries(${name} PRIVATE korvo_flags ${arg_LINK})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(${name} PRIVATE -O0)
+    endif()
+endfunction()
