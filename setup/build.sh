@@ -25,20 +25,32 @@ showProgress() {
     fi
 }
 
+# configurePreset PRESET [cmake options...]: below $root; when it fails, prints what was said.
+configurePreset() {
+    local preset=$1
+    shift
+    local log status=0
+    log="$(mktemp)"
+    if ! (cd "$root" && cmake --preset "$preset" "$@") > "$log" 2>&1; then
+        status=1
+        cat "$log" >&2
+        echo "Configuring $preset failed." >&2
+    fi
+    rm -f "$log"
+    return "$status"
+}
+
 # buildPreset PRESET TARGET [cmake options...]: configures and builds below $root; when a tool
 # fails, prints what it said from the first failure on and gives its status.
 buildPreset() {
     local preset=$1 target=$2
     shift 2
-    local log status=0
+    configurePreset "$preset" "$@" || return 1
+    local log status
     log="$(mktemp)"
-    if (cd "$root" && cmake --preset "$preset" "$@") > "$log" 2>&1; then
-        (cd "$root" && cmake --build --preset "$preset" --target "$target" \
-            --parallel "$(nproc)") 2>&1 | tee "$log" | showProgress "Building $preset"
-        status=${PIPESTATUS[0]}
-    else
-        status=1
-    fi
+    (cd "$root" && cmake --build --preset "$preset" --target "$target" \
+        --parallel "$(nproc)") 2>&1 | tee "$log" | showProgress "Building $preset"
+    status=${PIPESTATUS[0]}
     if [[ $status -ne 0 ]]; then
         if grep -q '^FAILED' "$log"; then
             sed -n '/^FAILED/,$p' "$log" >&2

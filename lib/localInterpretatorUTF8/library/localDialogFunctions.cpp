@@ -38,9 +38,9 @@ bool messageBox(localCall& call) {
 
 // A dialog that was rejected gives an empty text.
 bool dateChooseAsString(localCall& call) {
-    auto date =
+    const auto date =
         localHost::current().chooseDate(call.args.empty() ? std::u16string_view() : call.text(0));
-    return date ? call.give(localText(std::move(*date))) : call.fail(localErrorTypeGRAPHICONLY);
+    return date ? call.give(localText(*date)) : call.fail(localErrorTypeGRAPHICONLY);
 }
 
 }  // namespace localHandlers
