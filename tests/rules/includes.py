@@ -89,5 +89,6 @@ def check(name, folder, named):
 
 for name, (folder, named) in house.items():
     check(name, folder, named)
-print("\n".join(complaints))
+for complaint in complaints:
+    print(complaint)
 sys.exit(1 if complaints else 0)

@@ -14,10 +14,12 @@ wants 1 "$graphic" 'no module' -c '? PIXMAPASBASE64FROMFILEGET("1")'
 
 # --- no library, and a library that is no module
 echo 'no library' >bin/localPictureModule.so
-wants 1 '^Module \[localPictureModule\] cannot be loaded: ' 'a text' -c '? PIXMAPASBASE64FROMFILEGET("1")'
+wants 1 '^Module \[localPictureModule\] cannot be loaded: ' 'a text' \
+    -c '? PIXMAPASBASE64FROMFILEGET("1")'
 wants 1 "$graphic" 'the status of a text' -c '? PIXMAPASBASE64FROMFILEGET("1")'
 cp "$KORVO_TEST_MODULES/entrylessModule.so" bin/localPictureModule.so
-wants 1 '^Module \[localPictureModule\] .*localModule' 'no entry' -c '? PIXMAPASBASE64FROMFILEGET("1")'
+wants 1 '^Module \[localPictureModule\] .*localModule' 'no entry' \
+    -c '? PIXMAPASBASE64FROMFILEGET("1")'
 wants 1 "$graphic" 'the status without an entry' -c '? PIXMAPASBASE64FROMFILEGET("1")'
 
 # --- a module that works

@@ -47,7 +47,8 @@ fi
     echo '? a'
 } >lines.txt
 limited 60000 <lines.txt >output 2>&1
-if [ $? -ne 1 ] || [ "$(grep -c 'Недостаточно памяти!' output)" -ne 1 ] || ! grep -qx kept output; then
+if [ $? -ne 1 ] || [ "$(grep -c 'Недостаточно памяти!' output)" -ne 1 ] ||
+    ! grep -qx kept output; then
     echo 'a line too long for the memory: wanted one line of it, "kept" and exit code 1, got'
     head -n 3 output | cut -c 1-200
     failures=$((failures + 1))

@@ -83,8 +83,8 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
     }
     status = localErrorTypeOK;
     if (object != nullptr && name == u"~") {
-        table.native.destroy(
-            object);  // the one call without a result: it may come when memory ran out
+        // The one call without a result: it may come when memory ran out.
+        table.native.destroy(object);
         return true;
     }
     result = localMemoryManager::manager->reserveSlot();
