@@ -16,6 +16,8 @@ namespace {
 
 const QString historyName = "console_history.log";
 const QString settingsName = "localConsole.ini";
+// Written when a console makes the global context.
+const QString slotStoreLine = "localMemoryManager::manager->getReservedCount()= ";
 
 }  // namespace
 
@@ -192,6 +194,7 @@ private slots:
         start();
         QCOMPARE(shown().size(), defaultSize());
         QVERIFY(!shown().windowPlace().has_value());
+        QVERIFY(starting_.takeFirst().startsWith(slotStoreLine));
         QCOMPARE(withoutTail(starting_.first()), QString("Файл не найден."));
         QVERIFY(starting_.contains("[]"));
     }
@@ -209,6 +212,7 @@ private slots:
         start();
         QCOMPARE(shown().size(), QSize(613, 307));
         QCOMPARE(shown().windowPlace(), std::optional(place));
+        QVERIFY(starting_.takeFirst().startsWith(slotStoreLine));
         QVERIFY2(starting_.join('\n').startsWith("[" + text + "]\nwidth: "),
                  qPrintable(starting_.join('|')));
         QCOMPARE(withoutTail(starting_.last()), QString("width: 613 height: 307"));
