@@ -34,6 +34,9 @@ Turn& turn() {
     return only;
 }
 
+// The program's first thread has the turn from the start, whichever asks first.
+[[maybe_unused]] const bool startedOnFirstThread = turn().depth == 1;
+
 void take(int depth) {
     Turn& shared = turn();
     std::unique_lock lock(shared.mutex);

@@ -139,17 +139,15 @@ TEST(localTurn, aPauseOfAThreadWithoutItDoesNothing) {
 TEST(localTurn, aThreadWaitsForIt) {
     bool first = true;
     bool inOrder = false;
-    std::thread other;
-    {
-        const localTurn::Pause outside;
-        const localTurn::Hold turn;
-        other = std::thread([&] {
-            const localTurn::Hold waited;
-            inOrder = !first;
-        });
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        first = false;
-    }
+    const localTurn::Pause outside;
+    std::optional<localTurn::Hold> turn(std::in_place);
+    std::thread other([&] {
+        const localTurn::Hold waited;
+        inOrder = !first;
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    first = false;
+    turn.reset();
     other.join();
     EXPECT_TRUE(inOrder);
 }

@@ -1,11 +1,12 @@
 // The turn of the language: which thread is in it.
 //
 // Values, scopes and class tables are shared by all threads and guarded by nothing but this: only
-// the thread that has the turn may be in the language. The thread that comes first has it from the
-// start, so a program of one thread never hears of it. One that has more gives it up (Pause) where
-// it waits for something - an event loop, a box, an answer from the network - and everybody who
-// enters the language from there asks for it: Hold waits, Attempt goes without when it is taken.
-// Debug builds assert it at the doors of the language: evaluate, execute, method call, slot store.
+// the thread that has the turn may be in the language. The first thread of a program has it from
+// the start, so a program of one thread never hears of it. One that has more gives it up (Pause)
+// where it waits for something - an event loop, a box, an answer from the network - and everybody
+// who enters the language from there asks for it: Hold waits, Attempt goes without when it is
+// taken. Debug builds assert it at the doors of the language: evaluate, execute, method call, slot
+// store.
 //
 // The turn is counted, so whoever has it may ask again. It can be lent to another thread that does
 // a piece of work for this one (Loan).
