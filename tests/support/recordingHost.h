@@ -104,6 +104,8 @@ public:
                                          : "cursor restored");
     }
 
+    void beep() override { record("beep"); }
+
     bool showMessage(const localReport& message) override {
         if (screen) {
             reports.push_back(message);

@@ -24,6 +24,8 @@ bool localHost::hasScreen() const {
 
 void localHost::setCursor(Cursor) {}
 
+void localHost::beep() {}
+
 localReport::Button localHost::report(const localReport& report) {
     writeLine({report.title, u": ", report.plainText()});
     return report.defaultButton;

@@ -114,6 +114,12 @@ void localVclHost::setCursor(Cursor cursor) {
     });
 }
 
+void localVclHost::beep() {
+    if (hasScreen()) {
+        localVclOnWindowThread([] { QApplication::beep(); });
+    }
+}
+
 localReport::Button localVclHost::report(const localReport& report) {
     if (!hasScreen()) {
         return localHost::report(report);

@@ -41,6 +41,8 @@ public:
     struct Index {
         Index();
         ~Index();
+        Index(const Index&) = delete;
+        Index& operator=(const Index&) = delete;
 
         std::u16string name;
         // Into `fields`, in key order. A key column that the table's list lacks is left out.
@@ -48,7 +50,8 @@ public:
         // "tov.code"
         std::vector<std::u16string> keyFieldNames;
 
-        // How the columns are compared and ordered; behind the key those that tell rows apart.
+        // How the columns are compared and ordered: those of the key, and behind them those that
+        // tell rows of one key apart.
         std::vector<localDbKeyColumn> columns;
     };
     using Row = std::vector<QString>;
@@ -125,9 +128,24 @@ public:
 
 private:
     struct Shape;
-    struct Passes;
+    explicit localDbDataSource200123(Shape shape);
 
-    localDbDataSource200123(std::u16string_view connection, Shape shape);
+    // Puts the first index in force and fills the buffer. False after the box of a fatal end.
+    bool begin(std::u16string_view defaultIdxName);
+    void readIndexes();
+    bool setCurrent(std::u16string_view name);
+
+    std::u16string fromText() const;
+    std::u16string selectList(const std::vector<std::u16string>& keyNames) const;
+    std::u16string mainName(std::u16string_view column) const;
+    void tellNoKey() const;
+
+    void fill(const localDbKey& key, bool apart);
+    bool isCrowded() const;
+    bool isSameKey(std::size_t row, std::size_t other) const;
+    localDbKey exactKeyOfRow(std::size_t row) const;
+    localDbKey read(const Index& of, const localDbKey& key, std::int32_t offset, bool strict,
+                    const Index& other, bool apart) const;
 
     std::u16string connection_;
     std::vector<Row> dataBuffer_;

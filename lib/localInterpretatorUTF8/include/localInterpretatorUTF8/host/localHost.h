@@ -30,10 +30,13 @@ public:
     // not done, and the call of a program that asked for it fails with status 26.
     virtual bool hasScreen() const;
 
-    // --- The pointer
+    // --- The pointer and the bell
 
     // Overrides the mouse pointer, or takes back the last override.
     virtual void setCursor(Cursor cursor);
+
+    // A short sound that asks for attention. A terminal gives none.
+    virtual void beep();
 
     // --- Reports and questions
 

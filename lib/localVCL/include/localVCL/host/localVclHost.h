@@ -12,6 +12,7 @@ class localVclHost : public localHost {
 public:
     bool hasScreen() const override;
     void setCursor(Cursor cursor) override;
+    void beep() override;
 
     localReport::Button report(const localReport& report) override;
     // An empty title means the application's name.

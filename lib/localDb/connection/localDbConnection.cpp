@@ -1,0 +1,154 @@
+#include "localDb/connection/localDbConnection.h"
+
+#include <QFileInfo>
+
+#include <cassert>
+#include <map>
+#include <memory>
+#include <mutex>
+
+#include "localDb/localDb.h"
+#include "localInterpretatorUTF8/classes/localDateTime.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#include "sqlite/localDbSqlite.h"
+#include "text/localDbText.h"
+
+namespace {
+
+// A thread, as long as it lives. The system's own numbers of threads are given anew to others.
+using Thread = std::shared_ptr<char>;
+
+const Thread& thisThread() {
+    thread_local const Thread thread = std::make_shared<char>();
+    return thread;
+}
+
+struct Held {
+    int holds = 0;
+    std::weak_ptr<char> owner;
+    QString openedFile;  // full name
+};
+
+struct Connections {
+    std::mutex mutex;
+    std::map<std::u16string, Held, std::less<>> byName;
+};
+
+Connections& connections() {
+    // Never destroyed: holds may end later than any other static object.
+    static auto* const all = new Connections;
+    return *all;
+}
+
+}  // namespace
+
+std::u16string localDbConnection::nameForObject() {
+    const std::u16string stamped = u"db-" + localString::fromUtf8(localDateTime().toStringAscii());
+    std::u16string name = stamped;
+    for (qint64 number = 2; exists(name) && !isHere(name); ++number) {
+        name = localDbWords(stamped, u"#", localDbNumber(number));
+    }
+    return name;
+}
+
+bool localDbConnection::exists(std::u16string_view name) {
+    return QSqlDatabase::contains(localDbQString(name));
+}
+
+bool localDbConnection::isHere(std::u16string_view name) {
+    Connections& all = connections();
+    const std::lock_guard lock(all.mutex);
+    const auto found = all.byName.find(name);
+    if (found != all.byName.end()) {
+        return found->second.owner.lock() == thisThread();
+    }
+    // Made by somebody else: the toolkit gives the handle to the thread that made it.
+    return QSqlDatabase::database(localDbQString(name), false).isValid();
+}
+
+localDbConnection::localDbConnection(std::u16string_view name) : name_(name) {
+    const QString known = localDbQString(name);
+    Connections& all = connections();
+    const std::lock_guard lock(all.mutex);
+    Held& held = all.byName[name_];
+    if (held.holds++ != 0 && held.owner.expired()) {
+        // The thread it belonged to has ended.
+        QSqlDatabase::removeDatabase(known);
+        held.openedFile.clear();
+        held.owner.reset();
+    }
+    if (!QSqlDatabase::contains(known)) {
+        QSqlDatabase::addDatabase(localDbSqlite::driver(), known);
+    }
+    if (held.owner.expired()) {
+        held.owner = thisThread();
+    }
+}
+
+localDbConnection::~localDbConnection() {
+    Connections& all = connections();
+    const std::lock_guard lock(all.mutex);
+    const auto found = all.byName.find(name_);
+    if (--found->second.holds == 0) {
+        all.byName.erase(found);
+        QSqlDatabase::removeDatabase(localDbQString(name_));
+    }
+}
+
+QSqlDatabase localDbConnection::database(std::u16string_view name) {
+    assert(isHere(name));
+    return QSqlDatabase::database(localDbQString(name), false);
+}
+
+bool localDbConnection::open(std::u16string_view name, std::u16string_view fileName) {
+    if (fileName.empty() || !exists(name) || !isHere(name)) {
+        return false;
+    }
+    QSqlDatabase connection = database(name);
+    const QString file = localDbQString(localPlatform::normalizedPath(fileName));
+    const QString fullName = QFileInfo(file).absoluteFilePath();
+    {
+        Connections& all = connections();
+        const std::lock_guard lock(all.mutex);
+        const auto found = all.byName.find(name);
+        if (found != all.byName.end()) {
+            if (connection.isOpen() && found->second.openedFile == fullName) {
+                return true;
+            }
+            found->second.openedFile = fullName;
+        }
+    }
+    connection.close();
+    connection.setDatabaseName(file);
+    // The driver passes over these three; they are set all the same. Meant.
+    connection.setHostName(QStringLiteral("korvo"));
+    connection.setUserName(QStringLiteral("korvo"));
+    connection.setPassword(QStringLiteral("korvoKey"));
+    connection.setConnectOptions(localDbSqlite::connectOptions());
+    return connection.open();
+}
+
+bool localDbConnection::open(std::u16string_view name) {
+    if (!exists(name) || !isHere(name)) {
+        return false;
+    }
+    QSqlDatabase connection = database(name);
+    return connection.isOpen() || (!connection.databaseName().isEmpty() && connection.open());
+}
+
+std::vector<std::u16string> localDbConnection::tables() const {
+    std::vector<std::u16string> names;
+    if (!open()) {
+        return names;
+    }
+    // The driver's list does not wait for a locked file; a statement does.
+    QSqlQuery query(database());
+    if (localDb::exec(query, localDbQString(localDbSqlite::lookSql()))) {
+        query.finish();
+        for (const QString& name : database().tables(QSql::Tables)) {
+            names.push_back(name.toStdU16String());
+        }
+    }
+    return names;
+}

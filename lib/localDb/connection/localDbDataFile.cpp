@@ -1,0 +1,101 @@
+// The data file: its name, and the connection "dbMain" on it.
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QVariant>
+
+#include "localDb/localDb.h"
+#include "localInterpretatorUTF8/host/localHost.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+#include "report/localDbReport.h"
+#include "text/localDbText.h"
+
+namespace {
+
+constexpr const char* property = "dataFileName";
+
+// Stands for the property as long as there is no application object.
+std::u16string& nameWithoutApplication() {
+    static std::u16string name;
+    return name;
+}
+
+std::u16string nameThatWasSet() {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    const QString name =
+        application != nullptr ? application->property(property).toString() : QString();
+    return name.isEmpty() ? nameWithoutApplication() : name.toStdU16String();
+}
+
+bool fileExists(std::u16string_view name) {
+    return QFileInfo::exists(localDbQString(localPlatform::normalizedPath(name)));
+}
+
+bool openMain(std::u16string_view fileName, std::string_view caller) {
+    // Windows come and go over it, so the first hold is never dropped. Each further one takes the
+    // connection over from a thread that has ended.
+    [[maybe_unused]] static const auto* const forGood =
+        new localDbConnection(localDbConnection::mainName);
+    const localDbConnection again(localDbConnection::mainName);
+    const std::u16string name =
+        fileExists(fileName) ? std::u16string(fileName) : localDb::applicationGetDataFullFileName();
+    writeLine(localDbWords(u"fileNameForOpenQString=[", name, u"]localDb::testDbInit выбран файл [",
+                           name, u"]"));
+    return localDb::connectionOpen(localDbConnection::mainName, name, caller);
+}
+
+}  // namespace
+
+void localDb::applicationSetDataFullFileName(std::u16string_view fileName) {
+    nameWithoutApplication() = fileName;
+    if (QCoreApplication* const application = QCoreApplication::instance()) {
+        application->setProperty(property, localDbQString(fileName));
+    }
+}
+
+std::u16string localDb::applicationGetDataFullFileName() {
+    std::u16string name = nameThatWasSet();
+    if (!name.empty() && fileExists(name)) {
+        return name;
+    }
+    name = localPlatform::normalizedPath(u"..\\lib\\Zakup200215.sqlite");
+    writeLine(u"defaultName=" + name);
+    if (!fileExists(name)) {
+        const std::u16string chosen = localHost::current().chooseFile(
+            u"Open file database ", localPlatform::workingDirectory(), {u"*.sqlite *.sqlite"});
+        if (!chosen.empty()) {
+            name = chosen;
+        }
+    }
+    applicationSetDataFullFileName(name);
+    return name;
+}
+
+bool localDb::connectionOpen(std::u16string_view connection, std::u16string_view fileName,
+                             std::string_view caller) {
+    const std::u16string callerName = localString::fromUtf8(caller);
+    if (!localDbUsable(connection, caller, localDbUnknownShort(connection, callerName))) {
+        return false;
+    }
+    if (localDbConnection::open(connection, fileName)) {
+        writeLine(localDbWords(u"база данных по адресу [", fileName, u"] открыта успешно."));
+        return true;
+    }
+    const QSqlError error = localDbConnection::database(connection).lastError();
+    localDbTellPlain(localReport::Kind::critical, caller,
+                     localDbWords(u"Ошибка открытия базы\n", u"fileName = ", fileName, u"\n",
+                                  u"driverText()   = ", localDbView(error.driverText()), u"\n",
+                                  u"databaseText() = ", localDbView(error.databaseText()), u"\n"));
+    return false;
+}
+
+bool localDb::testDbInit(std::u16string_view fileName) {
+    return openMain(fileName, "testDbInit");
+}
+
+bool localDb::testDbSqliteInit(std::u16string_view fileName) {
+    return openMain(fileName, "testDbSqliteInit");
+}

@@ -1,0 +1,47 @@
+// What only SQLite understands: its driver, its pragmas and its catalogue.
+#pragma once
+
+#include <QSqlError>
+#include <QString>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "index/localDbKeyColumn.h"
+
+namespace localDbSqlite {
+
+QString driver();
+// How a file is opened: a locked file is reported at once, so that the wait is in our own hands.
+QString connectOptions();
+
+// Whether a statement failed because another process has locked the file.
+bool isLocked(const QSqlError& error);
+
+// A statement that reads the catalogue and nothing else.
+std::u16string lookSql();
+std::u16string fieldsSql(std::u16string_view table);
+std::u16string indexNamesSql(std::u16string_view table);
+std::u16string indexKeySql(std::u16string_view index);
+
+// What makes a column the key of a new table.
+inline constexpr std::u16string_view primaryKeyWords = u" PRIMARY KEY AUTOINCREMENT ";
+
+// A name as it can stand in a statement: in double quotes when it is no plain word.
+std::u16string word(std::u16string_view name);
+
+// Bytes as a word of a statement, from hexadecimal digits.
+std::u16string bytesWord(std::u16string_view digits);
+
+// The columns of an index as they are compared and ordered: those of the key, then those that tell
+// rows of one key apart, in the index's own order. Empty for an index that does not hold every row
+// or stands on an expression.
+struct IndexColumns {
+    std::vector<localDbKeyColumn> columns;
+    std::size_t keyCount = 0;
+};
+IndexColumns indexColumns(std::u16string_view connection, std::u16string_view table,
+                          std::u16string_view index);
+
+}  // namespace localDbSqlite
