@@ -119,6 +119,10 @@ std::u16string indexKeySql(std::u16string_view index) {
     return localDbWords(u"PRAGMA index_info(", index, u")");
 }
 
+std::u16string renameAloneSql(bool alone) {
+    return localDbWords(u"PRAGMA legacy_alter_table=", alone ? u"ON" : u"OFF");
+}
+
 std::u16string word(std::u16string_view name) {
     const bool plain = !name.empty() && (name.front() < u'0' || name.front() > u'9') &&
                        std::all_of(name.begin(), name.end(),

@@ -25,6 +25,10 @@ std::u16string fieldsSql(std::u16string_view table);
 std::u16string indexNamesSql(std::u16string_view table);
 std::u16string indexKeySql(std::u16string_view index);
 
+// Whether renaming a table leaves alone what speaks of it, as it must when the name is one that
+// views and triggers of a dropped table still use.
+std::u16string renameAloneSql(bool alone);
+
 // What makes a column the key of a new table.
 inline constexpr std::u16string_view primaryKeyWords = u" PRIMARY KEY AUTOINCREMENT ";
 

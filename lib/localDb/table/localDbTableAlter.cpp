@@ -3,6 +3,7 @@
 #include "localDb/localDb.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "report/localDbReport.h"
+#include "sqlite/localDbSqlite.h"
 #include "text/localDbText.h"
 
 namespace {
@@ -16,6 +17,15 @@ std::u16string freeTableName(std::u16string_view connection, std::u16string_view
         name = trimBoth(localDbWords(stem, localDbNumber(number)));
     } while (localDb::dbTableExist(connection, name));
     return name;
+}
+
+bool renameAlone(std::u16string_view connection, std::u16string_view oldName,
+                 std::u16string_view newName) {
+    QSqlQuery query(localDbConnection::database(connection));
+    localDb::exec(query, localDbQString(localDbSqlite::renameAloneSql(true)));
+    const bool done = localDb::dbtRename(connection, oldName, newName);
+    localDb::exec(query, localDbQString(localDbSqlite::renameAloneSql(false)));
+    return done;
 }
 
 }  // namespace
@@ -43,5 +53,5 @@ bool localDb::dbtAlter(std::u16string_view connection, std::u16string_view table
         localDbTellFailed("dbtAlter", sql);
         return false;
     }
-    return dbtDelete(connection, table) && dbtRename(connection, rebuilt, table);
+    return dbtDelete(connection, table) && renameAlone(connection, rebuilt, table);
 }
