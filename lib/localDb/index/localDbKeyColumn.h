@@ -11,8 +11,9 @@ struct localDbKeyColumn {
     bool numeric = false;
     bool descending = false;
     bool nullable = false;
-    // A column that was declared with no type compares a number and its text as different.
-    bool typed = true;
+    // What the declared type makes of values; without one a number and its text are different.
+    enum class Affinity { none, text, number };
+    Affinity affinity = Affinity::text;
     // How the index compares texts: BINARY, NOCASE, RTRIM.
     std::u16string collation = {};
     // Whether that must be said, since the column by itself compares otherwise.

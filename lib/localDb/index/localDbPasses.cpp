@@ -9,6 +9,7 @@
 namespace {
 
 using Kind = localDbKeyValue::Kind;
+using Affinity = localDbKeyColumn::Affinity;
 
 bool readsAsNumber(std::u16string_view text) {
     bool isNumber = false;
@@ -52,7 +53,7 @@ std::u16string valueWord(const localDbKeyColumn& column, const localDbKeyValue& 
     const bool fits = value.kind == Kind::given ||
                       (value.kind == Kind::number && !isInfinite(value)) ||
                       (value.kind == Kind::text && !isBare);
-    if (!column.typed || !fits) {
+    if (column.affinity == Affinity::none || !fits) {
         return exactWord(value);
     }
     // The value goes as it is: one with a quote in it breaks the statement, which a person is told.
@@ -60,20 +61,31 @@ std::u16string valueWord(const localDbKeyColumn& column, const localDbKeyValue& 
     return isBare ? bare(value.text) : localDbWords(u"'", value.text, u"'");
 }
 
-std::u16string term(const localDbKeyColumn& column, std::u16string_view behind,
-                    localDbTermForm form) {
-    return localDbWords(u"(", column.term(), behind,
-                        form == localDbTermForm::byField ? u")" : u") ");
+std::u16string term(std::u16string_view column, std::u16string_view behind, localDbTermForm form) {
+    return localDbWords(u"(", column, behind, form == localDbTermForm::byField ? u")" : u") ");
+}
+
+// Under a collation of its own an index does not serve "is not null"; it does serve "at or after
+// the first value there can be".
+std::u16string notNull(const localDbKeyColumn& column, localDbTermForm form) {
+    if (!column.collationSaid) {
+        return term(column.name, u" is not null", form);
+    }
+    return term(column.term(), column.affinity == Affinity::text ? u">=''" : u">=-9e999", form);
+}
+
+std::u16string isNullTerm(const localDbKeyColumn& column, localDbTermForm form) {
+    return term(column.name, u" is null", form);
 }
 
 std::u16string comparison(const localDbKeyColumn& column, std::u16string_view operation,
                           const localDbKeyValue& value, localDbTermForm form) {
-    return term(column, localDbWords(operation, valueWord(column, value, form)), form);
+    return term(column.term(), localDbWords(operation, valueWord(column, value, form)), form);
 }
 
 std::u16string equality(const localDbKeyColumn& column, const localDbKeyValue& value,
                         localDbTermForm form) {
-    return value.kind == Kind::null ? term(column, u" is null", form)
+    return value.kind == Kind::null ? isNullTerm(column, form)
                                     : comparison(column, u"=", value, form);
 }
 
@@ -84,15 +96,14 @@ std::vector<std::u16string> strictTerms(const localDbKeyColumn& column,
                                         localDbTermForm form) {
     const bool isNull = value.kind == Kind::null;
     if (localDbGoesUp(column, direction)) {
-        return {isNull ? term(column, u" is not null", form)
-                       : comparison(column, u">", value, form)};
+        return {isNull ? notNull(column, form) : comparison(column, u">", value, form)};
     }
     if (isNull) {
         return {};
     }
     std::vector<std::u16string> terms{comparison(column, u"<", value, form)};
     if (column.nullable) {
-        terms.push_back(term(column, u" is null", form));
+        terms.push_back(isNullTerm(column, form));
     }
     return terms;
 }

@@ -25,15 +25,19 @@ std::u16string bareName(std::u16string_view name) {
     return std::u16string(quoted ? name.substr(1, name.size() - 2) : name);
 }
 
-// A column compares as its values do when its declared type is none, or means "as it comes".
-bool isTyped(const QString& declaredType) {
+// The rule by which a declared type says what becomes of values.
+localDbKeyColumn::Affinity affinityOf(const QString& declaredType) {
+    using Affinity = localDbKeyColumn::Affinity;
     const QString type = declaredType.toUpper();
-    for (const char* const word : {"INT", "CHAR", "CLOB", "TEXT"}) {
-        if (type.contains(QLatin1String(word))) {
-            return true;
-        }
+    const auto names = [&](const char* word) { return type.contains(QLatin1String(word)); };
+    if (names("INT")) {
+        return Affinity::number;
     }
-    return !type.isEmpty() && !type.contains(QLatin1String("BLOB")) && type != QLatin1String("ANY");
+    if (names("CHAR") || names("CLOB") || names("TEXT")) {
+        return Affinity::text;
+    }
+    return type.isEmpty() || names("BLOB") || type == QLatin1String("ANY") ? Affinity::none
+                                                                           : Affinity::number;
 }
 
 QSqlQuery result(std::u16string_view connection, const std::u16string& sql) {
@@ -162,7 +166,7 @@ IndexColumns indexColumns(std::u16string_view connection, std::u16string_view ta
         column.numeric = isRowId;
         column.descending = query.value(3).toBool();
         column.collation = query.value(4).toString().toStdU16String();
-        column.typed = isRowId || isTyped(type);
+        column.affinity = isRowId ? localDbKeyColumn::Affinity::number : affinityOf(type);
         const bool standsForRowId =
             query.value(7).toInt() == 1 && type.toUpper() == QLatin1String("INTEGER");
         column.nullable = !isRowId && !standsForRowId && !query.value(5).toBool();

@@ -89,7 +89,8 @@ TEST(localDbPasses, nothingComesBeforeNull) {
 }
 
 TEST(localDbPasses, aColumnWithoutATypeComparesAsItsValuesDo) {
-    const std::vector<localDbKeyColumn> a{{.name = u"a", .typed = false}};
+    const std::vector<localDbKeyColumn> a{
+        {.name = u"a", .affinity = localDbKeyColumn::Affinity::none}};
     const auto equality = [&](const localDbKeyValue& value) { return passes(a, {value})[0]; };
     EXPECT_EQ(equality({u"5", Kind::number}), "(a=5)");
     EXPECT_EQ(equality({u"5", Kind::text}), "(a='5')");
@@ -110,6 +111,15 @@ TEST(localDbPasses, aColumnThatHoldsAnotherKindOfValueStillFindsIt) {
 TEST(localDbPasses, aCollationIsSaidWhereTheColumnHasAnother) {
     EXPECT_THAT(passes({{.name = u"a", .collation = u"NOCASE", .collationSaid = true}}, {u"x"}),
                 ElementsAre("(a collate NOCASE='x')", "(a collate NOCASE>'x')"));
+    const localDbKeyValue null(u"", Kind::null);
+    EXPECT_THAT(passes({{.name = u"a", .collation = u"NOCASE", .collationSaid = true}}, {null}),
+                ElementsAre("(a is null)", "(a collate NOCASE>='')"));
+    EXPECT_THAT(passes({{.name = u"a",
+                         .affinity = localDbKeyColumn::Affinity::number,
+                         .collation = u"NOCASE",
+                         .collationSaid = true}},
+                       {null}),
+                ElementsAre("(a is null)", "(a collate NOCASE>=-9e999)"));
 }
 
 }  // namespace
