@@ -63,10 +63,11 @@ bool localDbAsk(std::u16string_view title, std::u16string text) {
 
 localDbErrors::localDbErrors(std::u16string_view connection, const QSqlQuery& query,
                              std::u16string_view sql) {
-    const QSqlError ofConnection = localDbConnection::database(connection).lastError();
+    const QSqlDatabase database = localDbConnection::database(connection);
+    const QSqlError ofConnection = database.lastError();
     connectionDatabase = ofConnection.databaseText().toStdU16String();
     connectionDriver = ofConnection.driverText().toStdU16String();
-    queryDatabase = localDbUnfitText(sql);
+    queryDatabase = database.isOpen() ? localDbUnfitText(sql) : u"The connection is not open.";
     if (queryDatabase.empty()) {
         queryDatabase = query.lastError().databaseText().toStdU16String();
         queryDriver = query.lastError().driverText().toStdU16String();

@@ -62,9 +62,9 @@ bool localDb::dbQueryExec(std::u16string_view connection, std::u16string_view sq
                        localDbUnknownShort(connection, u"localDb::dbQueryExec()"))) {
         return false;
     }
-    localDbConnection::open(connection);
+    const bool isOpen = localDbConnection::open(connection);
     query = QSqlQuery(localDbConnection::database(connection));
-    if (exec(query, localDbQString(sql))) {
+    if (isOpen && exec(query, localDbQString(sql))) {
         return true;
     }
     localDbTellPlain(localReport::Kind::critical, "dbQueryExec",

@@ -71,6 +71,12 @@ TEST_F(localDbConnectionTest, withoutAChosenFileNothingOpens) {
     EXPECT_FALSE(localDbConnection::open(u"nobody's", u"data.sqlite"));
 }
 
+TEST_F(localDbConnectionTest, aStatementWithoutAFileSaysSo) {
+    QSqlQuery query;
+    EXPECT_FALSE(localDb::dbQueryExec(name, u"select 1;", query));
+    EXPECT_THAT(boxes(), ElementsAre(queryBox("select 1;", "The connection is not open.", "")));
+}
+
 TEST_F(localDbConnectionTest, openForTheSameFileGoesOn) {
     make("create table t(id integer primary key); insert into t values(1),(2);");
     QSqlQuery underWay(connection->database());
