@@ -37,14 +37,13 @@ bool fileExists(std::u16string_view name) {
 bool openMain(std::u16string_view fileName, std::string_view caller) {
     // Windows come and go over it, so the first hold is never dropped. Each further one takes the
     // connection over from a thread that has ended.
-    [[maybe_unused]] static const auto* const forGood =
-        new localDbConnection(localDbConnection::mainName);
-    const localDbConnection again(localDbConnection::mainName);
+    static const localDbConnection& forGood = *new localDbConnection(localDbConnection::mainName);
+    const localDbConnection again(forGood.name());
     const std::u16string name =
         fileExists(fileName) ? std::u16string(fileName) : localDb::applicationGetDataFullFileName();
     writeLine(localDbWords(u"fileNameForOpenQString=[", name, u"]localDb::testDbInit выбран файл [",
                            name, u"]"));
-    return localDb::connectionOpen(localDbConnection::mainName, name, caller);
+    return localDb::connectionOpen(forGood.name(), name, caller);
 }
 
 }  // namespace

@@ -114,10 +114,10 @@ TEST_F(localDbFilesOfOthers, namesInCyrillic) {
 }
 
 TEST_F(localDbFilesOfOthers, namesWithBlanksAndQuotes) {
-    make(
-        "create table \"my goods\"(id integer primary key, \"the code\" CHAR(9));"
-        "create index \"by code\" on \"my goods\"(\"the code\");"
-        "create table \"it's\"(id integer primary key); insert into \"my goods\" values(1,'b'),(2,'a');");
+    make("create table \"my goods\"(id integer primary key, \"the code\" CHAR(9));"
+         "create index \"by code\" on \"my goods\"(\"the code\");"
+         "create table \"it's\"(id integer primary key);"
+         "insert into \"my goods\" values(1,'b'),(2,'a');");
     // As they are, such names break the statement, which is told; in quotes they stand.
     EXPECT_EQ(localDb::dbtRecordCount("test", "my goods"), 0);
     EXPECT_EQ(localDb::dbtRecordCount("test", "it's"), 0);
