@@ -93,11 +93,11 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
             status = localErrorTypeSTATICCALL;
             return false;
         }
-        if (table.native.construct == nullptr) {
+        object = table.native.construct == nullptr ? nullptr : table.native.construct();
+        if (object == nullptr) {
             status = localErrorTypeNOCONSTRUCTOR;
             return false;
         }
-        object = table.native.construct();
         result->objectBind(object, declaration);
         return true;
     }

@@ -109,7 +109,8 @@ bool localHandlerRun(localCall& call, std::string_view pattern, localHandler han
 
 // What a table needs to know of the native type behind a class.
 struct localNativeType {
-    void* (*construct)();           // a new object with count 0; null where a program makes none
+    // A new object with count 0. Null where a program makes none, or gives null: status 11.
+    void* (*construct)();
     void (*destroy)(void* object);  // of the last cell that held it
     localLinkFunction link;         // null: objects are not counted and never destroyed
 };
