@@ -1,6 +1,7 @@
 // korvo: the language with a console window.
 #include "localConsole/console/qMain.h"
 #include "localConsole/help/localConsoleExtension.h"
+#include "localDb/localDbExtension.h"
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
@@ -11,10 +12,8 @@ namespace {
 
 // What the program is made of above the language, lowest first.
 constexpr const localExtension* madeOf[] = {
-    &localPictureExtension,
-    &localPictureConverterExtension,
-    &localVclExtension,
-    &localConsoleExtension,
+    &localPictureExtension, &localPictureConverterExtension, &localDbExtension,
+    &localVclExtension,     &localConsoleExtension,
 };
 
 }  // namespace

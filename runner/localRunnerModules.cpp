@@ -7,9 +7,12 @@ constexpr std::u16string_view pictureFunctions[] = {
     u"PIXMAPASBASE64PARTGET",
 };
 
+constexpr std::u16string_view dataClasses[] = {u"DATABASE"};
+
 // A file has its name from the module's source in modules/.
 constexpr localModuleOffer modules[] = {
     {.file = u"localPictureModule", .functions = pictureFunctions},
+    {.file = u"localDataModule", .classes = dataClasses},
 };
 
 }  // namespace

@@ -26,13 +26,17 @@ bool localRunnerOptions::read(int argc, char* argv[]) {
             action = Action::version;
             return true;
         }
-        if (isOption && word != "-c" && word != "--check" && word != "--dump") {
+        if (isOption && word != "-c" && word != "--check" && word != "--dump" && word != "--data") {
             return failed("unknown option " + std::string(word));
         }
         if (!isFile && i + 1 >= argc) {
             return failed(std::string(word) + (word == "-c" ? " needs a line" : " needs a file"));
         }
         const std::u16string text = localPlatform::fileNameFromBytes(isFile ? argv[i] : argv[++i]);
+        if (word == "--data" && isOption) {
+            dataFileName = text;
+            continue;
+        }
         const Action asked = isFile              ? Action::program
                              : word == "-c"      ? Action::lines
                              : word == "--check" ? Action::check
@@ -58,6 +62,8 @@ korvo-run --check FILE.prg  compile a program only
 korvo-run --dump FILE.prg   compile a program and write its tree
 korvo-run --version
 korvo-run --help
+
+  --data FILE with any of these: the data file of class DATABASE, before the variable KORVO_DATA
 
 Exit codes
   FILE.prg          0 its value was the number 1, 3 another value, 1 an error, 2 cannot be read

@@ -15,6 +15,7 @@ struct localRunnerOptions {
 
     Action action = Action::standardInput;
     std::u16string fileName;            // of the program
+    std::u16string dataFileName;        // empty: the environment tells
     std::vector<std::u16string> lines;  // of -c, in order
     std::string fault;
 };

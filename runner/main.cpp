@@ -55,6 +55,10 @@ int start(int argc, char* argv[]) {
         std::cerr << options.fault << std::endl;
         return 2;
     }
+    if (!options.dataFileName.empty()) {
+        // The library of the data file comes later, if ever; it looks there.
+        localPlatform::setEnvironment("KORVO_DATA", options.dataFileName);
+    }
     return act(options);
 }
 

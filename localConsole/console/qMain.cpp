@@ -9,6 +9,7 @@
 #include "console/localApplicationContext.h"
 #include "localConsole/console/localConsoleStart.h"
 #include "localConsole/console/localCoutBuffer.h"
+#include "localDb/localDbExtension.h"
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
@@ -87,6 +88,7 @@ int qMain(int argc, char* argv[]) {
     // The application takes the user's locale for everything; numbers of the language do not.
     std::setlocale(LC_NUMERIC, "C");
     localVclTurnInstall();
+    localDbDataFileOfEnvironment();
     setApplicationFont();
     localCoutBuffer buffer;
     std::streambuf* const before = std::cout.rdbuf();

@@ -48,7 +48,7 @@ bool fieldRead(int& status, localContextUTF8*, void*& object, std::u16string_vie
                                 u"localDataBaseRecord", result);
 }
 
-constexpr localClassTable table = {
+constexpr localClassTable recordTable = {
     .nameEng = u"DATABASERECORD",
     .nameRus = u"БАЗАДАННЫХЗАПИСЬ",
     .description = u"класс БазаДанныхЗапись",
@@ -64,5 +64,5 @@ constexpr localClassTable table = {
 }  // namespace
 
 localClassDeclaration* localDataBaseRecord::classDeclaration() {
-    return localTableClass<table>();
+    return localTableClass<recordTable>();
 }

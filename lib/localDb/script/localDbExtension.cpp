@@ -1,8 +1,15 @@
 #include "localDb/localDbExtension.h"
 
+#include <QByteArray>
+#include <QDir>
+
+#include "localDb/localDb.h"
 #include "localDb/script/localDataBase.h"
 #include "localDb/script/localDataBaseRecord.h"
 #include "localDb/script/localDataBaseTable.h"
+#include "localInterpretatorUTF8/file/localStd.h"
+#include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "text/localDbText.h"
 
 namespace {
 
@@ -25,3 +32,13 @@ constexpr localCounter counters[] = {
 
 constexpr localExtension localDbExtension = {
     .name = u"localDb", .classes = classes, .counters = counters};
+
+void localDbDataFileOfEnvironment() {
+    const std::u16string name =
+        localPlatform::fileNameFromBytes(qgetenv("KORVO_DATA").toStdString());
+    if (!name.empty()) {
+        const QDir startedIn(localDbQString(localStd::startDirectory()));
+        const QString path = localDbQString(localPlatform::normalizedPath(name));
+        localDb::applicationSetDataFullFileName(localDbView(startedIn.absoluteFilePath(path)));
+    }
+}

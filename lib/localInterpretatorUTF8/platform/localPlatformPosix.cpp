@@ -252,6 +252,10 @@ double processMilliseconds() {
         .count();
 }
 
+void setEnvironment(const char* variable, std::u16string_view fileName) {
+    setenv(variable, fileNameToBytes(fileName).c_str(), 1);
+}
+
 std::string programPath(const char* argv0) {
     const std::unique_ptr<char, decltype(&std::free)> path(realpath("/proc/self/exe", nullptr),
                                                            &std::free);

@@ -120,6 +120,10 @@ double processMilliseconds() {
         .count();
 }
 
+void setEnvironment(const char* variable, std::u16string_view fileName) {
+    _putenv_s(variable, fileNameToBytes(fileName).c_str());
+}
+
 std::string programPath(const char* argv0) {
     char path[MAX_PATH];
     const DWORD length = GetModuleFileNameA(nullptr, path, sizeof path);

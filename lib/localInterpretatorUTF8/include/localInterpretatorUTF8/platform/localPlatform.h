@@ -55,6 +55,9 @@ const char* stackLimit();
 // Milliseconds since the process started.
 double processMilliseconds();
 
+// Sets a variable of the environment, for this process and those it starts, to a file's name.
+void setEnvironment(const char* variable, std::u16string_view fileName);
+
 // The full path of the program, where the system tells it; else as given.
 std::string programPath(const char* argv0);
 
