@@ -21,6 +21,12 @@
 #include "localProgramHost.h"
 #include "localTestFile.h"
 
+#ifdef KORVO_DATABASE
+#include "localDb/localDb.h"
+#include "localDb/localDbExtension.h"
+#include "localToolkit/localToolkitApplication.h"
+#endif
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -180,6 +186,11 @@ std::string readAll(int descriptor) {
     ::alarm(longestRunSeconds);
     // The log lies where the process was started; its folder is this copy.
     localStd::startDirectory();
+#ifdef KORVO_DATABASE
+    localToolkitApplication();
+    localExtensionAdd(localDbExtension);
+    localDb::applicationSetDataFullFileName(u"data.sqlite");
+#endif
     localProgramHost host([reportTo, &name](const std::string& message) {
         writeAll(reportTo, name + ": halted: " + message + '\n');
     });
