@@ -1,0 +1,109 @@
+#!/bin/bash
+# The data file in the terminal program: which one it is, and that nobody pays for the library who
+# does not use it.
+
+. "${BASH_SOURCE%/*}/support/wants.sh"
+
+# What a file holds is told by the name of its one table.
+cat >make.prg <<'KORVO'
+CLASSLOAD("DATABASE");
+base = CREATEOBJECT("DATABASE");
+base.CONNECT();
+result = CREATEOBJECT("VALUETABLE");
+base.QUERYTOVALUETABLE("create table "+STRINGFROMFILE("name.txt")+" (id INTEGER PRIMARY KEY, n INT)", result);
+RETURN 1;
+KORVO
+cat >look.prg <<'KORVO'
+CLASSLOAD("DATABASE");
+base = CREATEOBJECT("DATABASE");
+base.CONNECT();
+tables = base.TABLES();
+? "holds "+tables.VALUEGET(1);
+RETURN 1;
+KORVO
+mkdir -p 'with blank' lib
+for name in first second third; do
+    printf %s $name >name.txt
+    : >"with blank/$name.sqlite"
+    wants 0 'открыта успешно' "making $name" --data "with blank/$name.sqlite" make.prg
+done
+
+# --- the option, the variable, the option before the variable
+unset KORVO_DATA
+wants 0 '^holds first$' 'option' --data 'with blank/first.sqlite' look.prg
+wants 0 '^holds first$' 'option behind the program' look.prg --data 'with blank/first.sqlite'
+wants 0 '^holds first$' 'option with lines' --data 'with blank/first.sqlite' -c 'DO look.prg'
+export KORVO_DATA='with blank/second.sqlite'
+wants 0 '^holds second$' 'variable' look.prg
+wants 0 '^holds first$' 'option and variable' --data 'with blank/first.sqlite' look.prg
+export KORVO_DATA=$PWD/'with blank/third.sqlite'
+wants 0 '^holds third$' 'variable with a full name' look.prg
+# A name counts from where the program was started.
+export KORVO_DATA='with blank/second.sqlite'
+wants 0 '^holds second$' 'another folder at CLASSLOAD' -c 'x = CWD("lib")' -c 'DO ../look.prg'
+export KORVO_DATA=
+wants 1 'Файл не найден' 'an empty variable' look.prg
+unset KORVO_DATA
+wants 2 'needs a file' 'no file behind the option' --data
+
+# --- files that cannot be data files; a dialog for another one gives nothing here
+wants 1 '^defaultName=\.\./lib/Zakup200215\.sqlite$' 'no data file' look.prg
+wants 1 'Файл не найден' 'no data file' look.prg
+wants 1 'Файл не найден' 'a missing file' --data missing.sqlite look.prg
+wants 1 'Ошибка открытия базы' 'a folder' --data lib look.prg
+
+# --- a walk over many records keeps its memory
+cat >fill.sql <<'SQL'
+with recursive numbers(x) as (select 1 union all select x+1 from numbers limit 1000000)
+insert into first (n) select x*2 from numbers
+SQL
+cat >fill.prg <<'KORVO'
+CLASSLOAD("DATABASE");
+base = CREATEOBJECT("DATABASE");
+base.CONNECT();
+result = CREATEOBJECT("VALUETABLE");
+RETURN IIF(base.QUERYTOVALUETABLE(STRINGFROMFILE("fill.sql"), result), 1, 0);
+KORVO
+cat >walk.prg <<'KORVO'
+CLASSLOAD("DATABASE");
+base = CREATEOBJECT("DATABASE");
+base.CONNECT();
+record = base.RECORDGET("first");
+record.SELECT(STRINGFROMFILE("condition.txt"));
+count = 0;
+WHILE record.NEXT() DO
+    count = count+1;
+ENDDO;
+? "read "+STRING(count)+" to "+record.n;
+? STRINGFROMFILE("/proc/self/status");
+RETURN 1;
+KORVO
+# Sets size to the most memory that the program ever had.
+peak() {
+    printf %s "$1" >condition.txt
+    wants 0 "^read $2\$" "a walk of $1" --data 'with blank/first.sqlite' walk.prg
+    size=$(grep -a '^VmHWM' output | tr -dc 0-9)
+}
+wants 0 'открыта успешно' 'a million records' --data 'with blank/first.sqlite' fill.prg
+peak 'id<=1000' '1000 to 2000'
+few=$size
+peak 'id>0' '1000000 to 2000000'
+many=$size
+if [ -z "$few" ] || [ -z "$many" ] || [ $((many - few)) -gt 3000 ]; then
+    echo "memory: wanted the same for a thousand and a million records, got $few and $many KB"
+    failures=$((failures + 1))
+fi
+
+# --- a program without a data file has nothing of the toolkit in it
+wants 0 '^0$' 'no toolkit at the start' \
+    -c 'm = STRINGFROMFILE("/proc/self/maps")' -c '? STRINGPARTFIND(m, "libQt")'
+wants 0 '^[1-9][0-9]*$' 'the toolkit behind CLASSLOAD' \
+    -c 'x = CLASSLOAD("DATABASE")' -c 'm = STRINGFROMFILE("/proc/self/maps")' \
+    -c '? STRINGPARTFIND(m, "libQt")'
+# Without the module beside the program the class is known, but not there.
+mkdir bin
+cp "$KORVO_RUN" bin/
+KORVO_RUN=bin/korvo-run
+wants 1 'моожет быть применен только в графической версии' 'no module' -c 'x = CLASSLOAD("DATABASE")'
+
+finish
