@@ -19,9 +19,9 @@
 std::int64_t localDataBase::counterStaticTotal = 0;
 
 localDataBase::localDataBase() : self_(this, [](localDataBase*) {}) {
-    ++counterStaticTotal;
     connections_.push_back(
         {std::make_unique<localDbConnection>(localDbConnection::nameForObject()), {}});
+    ++counterStaticTotal;
 }
 
 localDataBase::~localDataBase() {

@@ -14,7 +14,6 @@
 std::int64_t localDataBaseRecord::counterStaticTotal = 0;
 
 localDataBaseRecord::localDataBaseRecord(localDataBaseTable* table) {
-    ++counterStaticTotal;
     table_.objectBind(table, localDataBaseTable::classDeclaration());
     int status = localErrorTypeOK;
     const localDbConnection& connection = table->database(status)->here();
@@ -23,6 +22,7 @@ localDataBaseRecord::localDataBaseRecord(localDataBaseTable* table) {
         const std::u16string name = fields.fieldName(i).toStdU16String();
         localDbVariable(context, name).setVal(localDbWords(u"value of [", name, u"]"));
     }
+    ++counterStaticTotal;
 }
 
 bool localDataBaseRecord::select(int& status, std::u16string_view condition) {
