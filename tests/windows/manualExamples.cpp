@@ -18,8 +18,9 @@ using manualExample::step;
 namespace {
 
 // Examples of functions whose library is not part of the program yet: each ends with that status.
-const QStringList libraryMissing = {"CONTEXT:FORMOPEN", "CONTEXT:FORMEDIT",
-                                    "CONTEXT:NETWORKREQUESTEXECSYNC", "VALUETABLE:SHOW"};
+const QStringList libraryMissing = {
+    "CONTEXT:FORMOPEN", "CONTEXT:FORMEDIT",  "CONTEXT:NETWORKREQUESTEXECSYNC",
+    "VALUETABLE:SHOW",  "DATABASE:TREESHOW", "DATABASE:__TEST__BROWSE"};
 
 const QString program = "example.prg";
 
@@ -50,6 +51,8 @@ private:
               QByteArray::fromHex("3f2022") + QByteArray::fromHex("cceeebeeeaee") + "\";\n");
         write("invoice.xml", "<form/>\n");
         write("console_history.log", "");
+        write("demo.sqlite", "");
+        qApp->setProperty("dataFileName", "demo.sqlite");
     }
 
     // Stands for an outside program, and records that it was started.

@@ -2,14 +2,15 @@
 #pragma once
 
 #include "localConsole/help/localConsoleExtension.h"
+#include "localDb/localDbExtension.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
 #include "localVCL/library/localVclExtension.h"
 
 inline void addWhatKorvoIsMadeOf() {
     for (const localExtension* const extension :
-         {&localPictureExtension, &localPictureConverterExtension, &localVclExtension,
-          &localConsoleExtension}) {
+         {&localPictureExtension, &localPictureConverterExtension, &localDbExtension,
+          &localVclExtension, &localConsoleExtension}) {
         localExtensionAdd(*extension);
     }
 }
