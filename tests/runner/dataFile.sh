@@ -10,7 +10,8 @@ CLASSLOAD("DATABASE");
 base = CREATEOBJECT("DATABASE");
 base.CONNECT();
 result = CREATEOBJECT("VALUETABLE");
-base.QUERYTOVALUETABLE("create table "+STRINGFROMFILE("name.txt")+" (id INTEGER PRIMARY KEY, n INT)", result);
+query = "create table "+STRINGFROMFILE("name.txt")+" (id INTEGER PRIMARY KEY, n INT)";
+base.QUERYTOVALUETABLE(query, result);
 RETURN 1;
 KORVO
 cat >look.prg <<'KORVO'
@@ -104,6 +105,7 @@ wants 0 '^[1-9][0-9]*$' 'the toolkit behind CLASSLOAD' \
 mkdir bin
 cp "$KORVO_RUN" bin/
 KORVO_RUN=bin/korvo-run
-wants 1 'моожет быть применен только в графической версии' 'no module' -c 'x = CLASSLOAD("DATABASE")'
+wants 1 'моожет быть применен только в графической версии' 'no module' \
+    -c 'x = CLASSLOAD("DATABASE")'
 
 finish

@@ -21,7 +21,8 @@ const QByteArray make =
     "base = CREATEOBJECT(\"DATABASE\");\n"
     "base.CONNECT();\n"
     "result = CREATEOBJECT(\"VALUETABLE\");\n"
-    "base.QUERYTOVALUETABLE(\"create table Goods (id INTEGER PRIMARY KEY, CODE CHAR(9))\", result);\n"
+    "base.QUERYTOVALUETABLE(\"create table Goods (id INTEGER PRIMARY KEY, CODE CHAR(9))\", "
+    "result);\n"
     "base.QUERYTOVALUETABLE(\"insert into Goods (CODE) values ('001'),('002'),('003')\", result);\n"
     "record = base.RECORDGET(\"Goods\");\n";
 
