@@ -247,6 +247,7 @@ TEST_F(localDataBaseTest, aNullResultIsWantedOfTheCaller) {
     localValueDescription cell;
     localValueDescription* result = &cell;
     void* object = nullptr;
+    goods();
     const auto method = [](localClassDeclaration* declaration) {
         return declaration->memberFind(u"~")->methodFunction;
     };
