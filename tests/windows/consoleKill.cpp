@@ -245,6 +245,7 @@ private:
     // numbers are there, and the place is one that the person chose.
     static std::optional<QPoint> savedPlace() {
         const outputCapture lines;
+        const localTurn::Hold turn;
         const localContextUTF8 context;
         const localConsoleSettings settings;
         const auto x = settings.number(u"x");

@@ -20,6 +20,7 @@ private slots:
     void traceShowsAndRunsEachStatement() {
         const QString program = "a = 1;\n? a+1;\n";
         write("watched.prg", program.toUtf8());
+        const localTurn::Hold turn;
         localProcess process;
         process.delay = 30;
         QList<int> places;
@@ -82,6 +83,7 @@ private slots:
 
     void traceOfBranchesAndBlocks() {
         write("watched.prg", "IF 1=1 THEN\na = 1;\nENDIF;\nFOR i = 1 TO 1 DO\nb = i;\nENDDO;\n");
+        const localTurn::Hold turn;
         localProcess process;
         process.delay = 1;
         int status = localErrorTypeOK;
@@ -111,6 +113,7 @@ private slots:
         QFETCH(int, status);
         QFETCH(QString, message);
         write("watched.prg", program);
+        const localTurn::Hold turn;
         localProcess process;
         process.delay = 1;
         int left = localErrorTypeOK;
@@ -122,6 +125,7 @@ private slots:
     }
 
     void traceNeedsAFile() {
+        const localTurn::Hold turn;
         localProcess process;
         QCOMPARE(process.delay, 1000);
         int status = localErrorTypeOK;
@@ -141,6 +145,7 @@ private slots:
     void editorClosedDuringATrace() {
         QFETCH(QString, line);
         write("watched.prg", "? \"now\";\na = 1;\n");
+        const localTurn::Hold turn;
         localProcess process;
         process.delay = 1;
         connect(buffer_.get(), &localCoutBuffer::COUT, this, [&](const QString& written) {
@@ -157,6 +162,7 @@ private slots:
     void functionsOfATracedProgramWorkInTheConsole() {
         write("watched.prg", "FUNCTION twice(n)\nRETURN n*2;\nENDFUNCTION;\na = twice(2);\n");
         {
+            const localTurn::Hold turn;
             localProcess process;
             process.delay = 1;
             int status = localErrorTypeOK;
@@ -170,6 +176,7 @@ private slots:
         write("traced.prg", "fromTrace = x+1;\n");
         debug("x = 5;\ny = fromTrace;\n");
         step();
+        const localTurn::Hold turn;
         localProcess process;
         process.delay = 1;
         int status = localErrorTypeOK;
