@@ -10,6 +10,7 @@
 
 #include "dialog/localVclArrowCursor.h"
 #include "localInterpretatorUTF8/platform/localPlatform.h"
+#include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/dialog/localVclListDialog.h"
 #include "localVCL/dialog/localVclMessage.h"
@@ -144,12 +145,19 @@ void localVclHost::haltBox(std::u16string_view title, std::u16string_view text) 
     if (!hasScreen()) {
         return;
     }
-    // Lent and not given up: nobody else shall come into a language that has a defect.
-    localVclOnWindowThread([&] {
+    // The turn is with nobody: no window shall come into a language that has a defect, as the one
+    // would that the box takes the keyboard from.
+    const localTurn::Loan lentToNobody;
+    const auto show = [&] {
         runBox({.kind = localReport::Kind::critical,
                 .title = std::u16string(title),
                 .text = std::u16string(text)});
-    });
+    };
+    if (localVclIsWindowThread()) {
+        show();
+    } else {
+        localVclSendToWindowThread(show);
+    }
 }
 
 std::optional<std::size_t> localVclHost::chooseRow(std::u16string_view title,
