@@ -51,9 +51,10 @@ const QFont& localVclFont(int number) {
     static std::array<std::optional<QFont>, localVclFontCount> fonts;
     const bool known = number >= 0 && number < localVclFontCount;
     const auto row = static_cast<std::size_t>(known ? number : 0);
-    if (!fonts[row]) {
+    std::optional<QFont>& font = fonts[row];
+    if (!font) {
         [[maybe_unused]] static const bool named = (nameSubstitutes(), true);
-        fonts[row] = made(table[row]);
+        font = made(table[row]);
     }
-    return *fonts[row];
+    return *font;
 }

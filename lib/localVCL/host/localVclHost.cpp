@@ -175,7 +175,7 @@ std::optional<std::size_t> localVclHost::chooseRow(std::u16string_view title,
     localVclAskOnWindowThread([&] {
         int row = static_cast<int>(startRow) - 1;
         if (localVclQStringListGetItem(localVclQString(title), texts, row)) {
-            chosen = static_cast<std::size_t>(row + 1);
+            chosen = static_cast<std::size_t>(row) + 1;
         }
     });
     return chosen;
