@@ -25,6 +25,10 @@ else()
     target_compile_options(korvo_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow
         "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=" -fmacro-prefix-map=../=)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(korvo_flags INTERFACE
+            -Wconversion -Wsign-conversion -Wold-style-cast)
+    endif()
     # GCC 12 sees overlapping copies in plain concatenation of standard strings.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(korvo_flags INTERFACE -Wno-restrict)

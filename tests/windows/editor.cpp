@@ -130,7 +130,7 @@ void editor::coloursOfEachRule() {
     QCOMPARE(formatAt(*edit, 13, 9).fontWeight(), int(QFont::Bold));
     QVERIFY(hasColour(formatAt(*edit, 13, 17), Qt::black, false));  // 'текст'
 
-    edit->positionShow(program.indexOf("цена > 100"));
+    edit->positionShow(static_cast<std::size_t>(program.indexOf("цена > 100")));
     QVERIFY(saveScreenshot(*edit->window(), "editor"));
 }
 
