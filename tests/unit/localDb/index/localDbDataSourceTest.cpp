@@ -335,6 +335,11 @@ TEST_F(localDbDataSourceTest, anIndexIsChangedAroundTheRecord) {
     EXPECT_EQ(goods->cell(128, 0), "603");
 }
 
+// The row of the buffer on which the cursor belongs; there must be one.
+std::size_t rowOf(const Source::IdxSetResult& result) {
+    return static_cast<std::size_t>(result.row);
+}
+
 TEST_F(localDbDataSourceTest, oneOfSeveralRowsWithOneKeyStaysTheRecord) {
     makeGoods();
     const auto goods = source(u"Ref03_CODE");
@@ -344,16 +349,16 @@ TEST_F(localDbDataSourceTest, oneOfSeveralRowsWithOneKeyStaysTheRecord) {
         const QString id = goods->cell(0, 0);
         const Source::IdxSetResult there = goods->idxSet(u"Ref03_DESCR", 0);
         ASSERT_GE(there.row, 0);
-        EXPECT_EQ(goods->cell(there.row, 0), id);
-        const Source::IdxSetResult back = goods->idxSet(u"Ref03_CODE", there.row);
-        EXPECT_EQ(goods->cell(back.row, 0), id);
+        EXPECT_EQ(goods->cell(rowOf(there), 0), id);
+        const Source::IdxSetResult back = goods->idxSet(u"Ref03_CODE", rowOf(there));
+        EXPECT_EQ(goods->cell(rowOf(back), 0), id);
     }
     // From a buffer that was filled without telling rows apart.
     goods->idxSet(u"Ref03_DESCR", 0);
     goods->fillFromKeyVal({u"goods 0300"});
     ASSERT_EQ(goods->cell(1, 0), "600");
     const Source::IdxSetResult result = goods->idxSet(u"Ref03_CODE", 1);
-    EXPECT_EQ(goods->cell(result.row, 0), "600");
+    EXPECT_EQ(goods->cell(rowOf(result), 0), "600");
 }
 
 TEST_F(localDbDataSourceTest, anUnknownIndexChangesNothing) {
