@@ -85,6 +85,7 @@ std::vector<std::u16string> localDb::dbtRecordGetRelativelyByKeyAsVectorOfValues
     std::size_t fixed, const std::vector<std::u16string>& keyValues, std::int32_t offset,
     bool strict) {
     std::vector<localDbKeyColumn> keyColumns;
+    keyColumns.reserve(keyNames.size());
     for (const std::u16string& name : keyNames) {
         keyColumns.push_back({.name = name});
     }
