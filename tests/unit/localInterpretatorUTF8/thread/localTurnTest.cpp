@@ -72,7 +72,7 @@ private:
     bool done_ = false;
 };
 
-TEST(localTurn, theFirstThreadHasItFromTheStart) {
+TEST(localTurn, theThreadOfMainHasItFromTheStart) {
     EXPECT_TRUE(localTurn::isHeld());
     bool heldElsewhere = true;
     elsewhere([&] { heldElsewhere = localTurn::isHeld(); });
