@@ -17,12 +17,10 @@ bool methodFill(const localExtensionMethod& method) {
 
 }  // namespace
 
-void localLibrary::declarationRequired(bool declared, std::u16string_view bringer,
-                                       std::u16string_view kind, std::u16string_view name) {
-    if (!declared) {
-        exit_FAILURE(u"[" + std::u16string(bringer) + u"] brings what nobody declared: " +
-                     std::u16string(kind) + u" [" + std::u16string(name) + u"]!");
-    }
+void localLibrary::haltUndeclared(std::u16string_view bringer, std::u16string_view kind,
+                                  std::u16string_view name) {
+    exit_FAILURE(u"[" + std::u16string(bringer) + u"] brings what nobody declared: " +
+                 std::u16string(kind) + u" [" + std::u16string(name) + u"]!");
 }
 
 void localExtensionAdd(const localExtension& extension) {

@@ -9,9 +9,17 @@
 
 namespace localLibrary {
 
-// Halts unless a name was declared; `bringer` is what names it.
-void declarationRequired(bool declared, std::u16string_view bringer, std::u16string_view kind,
-                         std::u16string_view name);
+// Halts: `bringer` names what nobody declared.
+[[noreturn]] void haltUndeclared(std::u16string_view bringer, std::u16string_view kind,
+                                 std::u16string_view name);
+
+// Halts unless the name was declared.
+inline void declarationRequired(bool declared, std::u16string_view bringer,
+                                std::u16string_view kind, std::u16string_view name) {
+    if (!declared) {
+        haltUndeclared(bringer, kind, name);
+    }
+}
 
 // The rows of the global functions.
 localMethodRows& functionRows();

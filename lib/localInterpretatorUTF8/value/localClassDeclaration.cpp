@@ -122,6 +122,7 @@ std::u16string localClassDeclaration::summary() const {
 
 std::u16string localClassDeclaration::listing() const {
     std::vector<std::u16string> lines;
+    lines.reserve(members_.size());
     for (const auto& member : members_) {
         lines.push_back(memberLine(*member));
     }

@@ -124,7 +124,7 @@ void localValueDescription::objectBind(void* object, localClassDeclaration* decl
         const auto goes = [declaration](void* unheld) { destroy(declaration, unheld); };
         std::unique_ptr<void, decltype(goes)> unheld(object, goes);
         doomed.makeRoom();
-        unheld.release();
+        static_cast<void>(unheld.release());
     }
     reset();
     type = localValueTypeOBJECT;
