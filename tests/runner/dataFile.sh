@@ -48,10 +48,62 @@ unset KORVO_DATA
 wants 2 'needs a file' 'no file behind the option' --data
 
 # --- files that cannot be data files; a dialog for another one gives nothing here
-wants 1 '^defaultName=\.\./lib/Zakup200215\.sqlite$' 'no data file' look.prg
+wants 1 '^defaultName=\.\.\\lib\\Zakup200215\.sqlite$' 'no data file' look.prg
 wants 1 'Файл не найден' 'no data file' look.prg
 wants 1 'Файл не найден' 'a missing file' --data missing.sqlite look.prg
 wants 1 'Ошибка открытия базы' 'a folder' --data lib look.prg
+wants 1 '^databaseText\(\) = file is not a database$' 'a text' --data look.prg look.prg
+
+# --- the toolkit says nothing of its own, also where a user has no folder for what runs
+(
+    unset XDG_RUNTIME_DIR
+    "$KORVO_RUN" --data 'with blank/first.sqlite' look.prg 2>errors >output
+)
+if [ -s errors ]; then
+    echo "errors: wanted nothing, got"
+    head -n 3 errors
+    failures=$((failures + 1))
+fi
+
+# --- a file that another process has locked is waited for, 5 seconds, then told of, each time
+cat >locked.prg <<'KORVO'
+CLASSLOAD("DATABASE");
+base = CREATEOBJECT("DATABASE");
+base.CONNECT();
+record = base.RECORDGET("first");
+BASE64APPENDTOFILE("", "ready");
+WHILE FILEEXIST("held")=FALSE DO
+    tries = 1;
+ENDDO;
+? "SELECT "+STRING(record.SELECT());
+? "TABLES "+STRING(base.TABLES());
+other = CREATEOBJECT("DATABASE");
+? "CONNECT "+STRING(other.CONNECT());
+RETURN 1;
+KORVO
+(
+    until [ -e ready ]; do sleep 0.05; done
+    sqlite3 'with blank/first.sqlite' 'begin exclusive' '.shell touch held' \
+        '.shell until [ -e done ]; do sleep 0.1; done'
+) &
+before=${EPOCHREALTIME%.*}
+wants 0 '^SELECT ЛОЖЬ$' 'SELECT of a locked file' --data 'with blank/first.sqlite' locked.prg
+waited=$((${EPOCHREALTIME%.*} - before))
+for line in 'TABLES ЛОЖЬ' 'CONNECT ЛОЖЬ' 'Ошибка открытия базы' \
+    'databaseText() = database is locked'; do
+    if ! grep -qxF -- "$line" output; then
+        echo "a locked file: no line '$line'"
+        failures=$((failures + 1))
+    fi
+done
+if [ "$(grep -cxF 'Query databaseText: database is locked' output)" -ne 2 ] ||
+    [ $waited -lt 15 ] || [ $waited -gt 25 ]; then
+    echo "a locked file: wanted two boxes and one of the open within 15 s, got within $waited s"
+    cat output
+    failures=$((failures + 1))
+fi
+touch done
+wait
 
 # --- a walk over many records keeps its memory
 cat >fill.sql <<'SQL'

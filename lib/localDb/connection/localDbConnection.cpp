@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include "localDb/localDb.h"
 #include "localInterpretatorUTF8/classes/localDateTime.h"
@@ -27,7 +28,9 @@ const Thread& thisThread() {
 struct Held {
     int holds = 0;
     std::weak_ptr<char> owner;
-    QString openedFile;  // full name
+    std::u16string file;  // full name of the one chosen
+    // What that name stood for when it was opened: a file made anew under it is another one.
+    std::optional<localPlatform::FileIdentity> opened;
 };
 
 struct Connections {
@@ -39,6 +42,26 @@ Connections& connections() {
     // Never destroyed: holds may end later than any other static object.
     static auto* const all = new Connections;
     return *all;
+}
+
+// Empty for a connection that somebody else made.
+Held heldAs(std::u16string_view name) {
+    Connections& all = connections();
+    const std::lock_guard lock(all.mutex);
+    const auto found = all.byName.find(name);
+    return found == all.byName.end() ? Held() : found->second;
+}
+
+bool openOn(std::u16string_view name, QSqlDatabase& connection, const std::u16string& fullName) {
+    const bool opened = connection.open();
+    Connections& all = connections();
+    const std::lock_guard lock(all.mutex);
+    const auto found = all.byName.find(name);
+    if (found != all.byName.end()) {
+        found->second.file = fullName;
+        found->second.opened = localPlatform::fileIdentity(fullName);
+    }
+    return opened;
 }
 
 }  // namespace
@@ -73,9 +96,9 @@ localDbConnection::localDbConnection(std::u16string_view name) : name_(name) {
     const std::lock_guard lock(all.mutex);
     Held& held = all.byName[name_];
     if (held.holds++ != 0 && held.owner.expired()) {
-        // The thread it belonged to has ended.
+        // The thread it belonged to has ended. What it made is closed, and made anew here.
         QSqlDatabase::removeDatabase(known);
-        held.openedFile.clear();
+        held.file.clear();
         held.owner.reset();
     }
     if (!QSqlDatabase::contains(known)) {
@@ -107,17 +130,11 @@ bool localDbConnection::open(std::u16string_view name, std::u16string_view fileN
     }
     QSqlDatabase connection = database(name);
     const QString file = localDbQString(localPlatform::normalizedPath(fileName));
-    const QString fullName = QFileInfo(file).absoluteFilePath();
-    {
-        Connections& all = connections();
-        const std::lock_guard lock(all.mutex);
-        const auto found = all.byName.find(name);
-        if (found != all.byName.end()) {
-            if (connection.isOpen() && found->second.openedFile == fullName) {
-                return true;
-            }
-            found->second.openedFile = fullName;
-        }
+    const std::u16string fullName = QFileInfo(file).absoluteFilePath().toStdU16String();
+    const Held before = heldAs(name);
+    if (connection.isOpen() && before.file == fullName &&
+        before.opened == localPlatform::fileIdentity(fullName)) {
+        return true;
     }
     connection.close();
     connection.setDatabaseName(file);
@@ -126,7 +143,7 @@ bool localDbConnection::open(std::u16string_view name, std::u16string_view fileN
     connection.setUserName(QStringLiteral("korvo"));
     connection.setPassword(QStringLiteral("korvoKey"));
     connection.setConnectOptions(localDbSqlite::connectOptions());
-    return connection.open();
+    return openOn(name, connection, fullName);
 }
 
 bool localDbConnection::open(std::u16string_view name) {
@@ -134,21 +151,36 @@ bool localDbConnection::open(std::u16string_view name) {
         return false;
     }
     QSqlDatabase connection = database(name);
-    return connection.isOpen() || (!connection.databaseName().isEmpty() && connection.open());
+    const Held held = heldAs(name);
+    if (held.file.empty()) {
+        return connection.isOpen() || (!connection.databaseName().isEmpty() && connection.open());
+    }
+    const std::optional<localPlatform::FileIdentity> now = localPlatform::fileIdentity(held.file);
+    if (connection.isOpen() && now == held.opened) {
+        return true;
+    }
+    // The file of that name was replaced, or it is gone: what went into the old one now would be
+    // lost, and a new one is made only where it is chosen.
+    connection.close();
+    if (!now) {
+        return false;
+    }
+    connection.setDatabaseName(localDbQString(held.file));
+    return openOn(name, connection, held.file);
 }
 
-std::vector<std::u16string> localDbConnection::tables() const {
-    std::vector<std::u16string> names;
-    if (!open()) {
-        return names;
+bool localDbConnection::isReadable() const {
+    QSqlQuery look;
+    return open() && localDb::dbQueryExec(name_, localDbSqlite::lookSql(), look);
+}
+
+std::optional<std::vector<std::u16string>> localDbConnection::tables() const {
+    if (!isReadable()) {
+        return std::nullopt;
     }
-    // The driver's list does not wait for a locked file; a statement does.
-    QSqlQuery query(database());
-    if (localDb::exec(query, localDbQString(localDbSqlite::lookSql()))) {
-        query.finish();
-        for (const QString& name : database().tables(QSql::Tables)) {
-            names.push_back(name.toStdU16String());
-        }
+    std::vector<std::u16string> names;
+    for (const QString& name : database().tables(QSql::Tables)) {
+        names.push_back(name.toStdU16String());
     }
     return names;
 }

@@ -11,6 +11,7 @@
 #include "localInterpretatorUTF8/text/localString.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "report/localDbReport.h"
+#include "sqlite/localDbSqlite.h"
 #include "text/localDbText.h"
 
 namespace {
@@ -60,7 +61,7 @@ std::u16string localDb::applicationGetDataFullFileName() {
     if (!name.empty() && fileExists(name)) {
         return name;
     }
-    name = localPlatform::normalizedPath(u"..\\lib\\Zakup200215.sqlite");
+    name = u"..\\lib\\Zakup200215.sqlite";
     writeLine(u"defaultName=" + name);
     if (!fileExists(name)) {
         const std::u16string chosen = localHost::current().chooseFile(
@@ -79,11 +80,18 @@ bool localDb::connectionOpen(std::u16string_view connection, std::u16string_view
     if (!localDbUsable(connection, caller, localDbUnknownShort(connection, callerName))) {
         return false;
     }
+    QSqlError error;
     if (localDbConnection::open(connection, fileName)) {
-        writeLine(localDbWords(u"база данных по адресу [", fileName, u"] открыта успешно."));
-        return true;
+        // What is no data file, and a locked one, shows only when it is looked into.
+        QSqlQuery look(localDbConnection::database(connection));
+        if (exec(look, localDbQString(localDbSqlite::lookSql()))) {
+            writeLine(localDbWords(u"база данных по адресу [", fileName, u"] открыта успешно."));
+            return true;
+        }
+        error = look.lastError();
+    } else {
+        error = localDbConnection::database(connection).lastError();
     }
-    const QSqlError error = localDbConnection::database(connection).lastError();
     localDbTellPlain(localReport::Kind::critical, caller,
                      localDbWords(u"Ошибка открытия базы\n", u"fileName = ", fileName, u"\n",
                                   u"driverText()   = ", localDbView(error.driverText()), u"\n",

@@ -81,6 +81,14 @@ std::u16string localDbLabelled(const localDbErrors& errors) {
                         u"Query  driverText : ", errors.queryDriver, u"\n");
 }
 
+void localDbTellStatement(std::string_view function, std::u16string_view sql,
+                          const localDbErrors& errors, std::source_location place) {
+    localDbTellPlain(localReport::Kind::critical, function,
+                     localDbWords(u"Unable to execute query \n", u"SQL : ", sql, u"\n\n",
+                                  localDbLabelled(errors)),
+                     place);
+}
+
 void localDbTellFailed(std::string_view function, std::u16string_view sql,
                        std::source_location place) {
     localDbTellPlain(localReport::Kind::warning, function,

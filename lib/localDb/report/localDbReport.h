@@ -46,6 +46,11 @@ struct localDbErrors {
 // The four texts, a line each under its label.
 std::u16string localDbLabelled(const localDbErrors& errors);
 
+// The first box of a failed statement.
+void localDbTellStatement(std::string_view function, std::u16string_view sql,
+                          const localDbErrors& errors,
+                          std::source_location place = std::source_location::current());
+
 // The second box of a failed statement.
 void localDbTellFailed(std::string_view function, std::u16string_view sql,
                        std::source_location place = std::source_location::current());

@@ -16,6 +16,8 @@
 #include "sqlite/localDbSqlite.h"
 #include "text/localDbText.h"
 
+using Names = std::vector<std::u16string>;
+
 std::int64_t localDataBase::counterStaticTotal = 0;
 
 localDataBase::localDataBase() : self_(this, [](localDataBase*) {}) {
@@ -73,7 +75,7 @@ bool localDataBase::connect(int& status) {
         return false;
     }
     context.varRemoveAll();
-    for (const std::u16string& name : connection.hold->tables()) {
+    for (const std::u16string& name : connection.hold->tables().value_or(Names())) {
         localDbVariable(context, name)
             .objectBind(new localDataBaseTable(self_, name),
                         localDataBaseTable::classDeclaration());
@@ -82,13 +84,14 @@ bool localDataBase::connect(int& status) {
 }
 
 bool localDataBase::hasTable(std::u16string_view table) {
-    const std::vector<std::u16string> names = here().tables();
+    const Names names = here().tables().value_or(Names());
     return std::find(names.begin(), names.end(), table) != names.end();
 }
 
 bool localDataBase::fieldsToValueTable(std::u16string_view table, localValueTable& fields) {
     fields.clear();
-    const QSqlDatabase database = open() ? here().database() : QSqlDatabase();
+    const localDbConnection& connection = here();
+    const QSqlDatabase database = connection.isReadable() ? connection.database() : QSqlDatabase();
     // Other drivers give other names of types.
     if (database.driverName() != localDbSqlite::driver()) {
         return false;

@@ -104,13 +104,13 @@ bool recordGet(localCall& call) {
 }
 
 bool tables(localCall& call) {
-    localDataBase& base = baseOf(call);
-    if (!base.open()) {
+    const auto names = baseOf(call).here().tables();
+    if (!names) {
         return call.giveBoolean(false);
     }
     auto* const list = new localValueList;
     call.result.objectBind(list, localValueList::classDeclaration());
-    for (const std::u16string& name : base.here().tables()) {
+    for (const std::u16string& name : *names) {
         list->valueAppend(localText(name), name);
     }
     return true;

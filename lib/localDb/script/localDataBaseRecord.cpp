@@ -7,6 +7,7 @@
 #include "localDb/localDb.h"
 #include "localDb/script/localDataBase.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "report/localDbReport.h"
 #include "script/localDbScript.h"
 #include "sqlite/localDbSqlite.h"
 #include "text/localDbText.h"
@@ -38,6 +39,11 @@ bool localDataBaseRecord::select(int& status, std::u16string_view condition) {
     const std::u16string sql = localDbWords(u"select * from ", localDbSqlite::word(table().name()),
                                             condition.empty() ? u"" : u" where ", condition, u" ;");
     if (!localDb::exec(*query_, localDbQString(sql))) {
+        // A condition that is none is not told of. Meant.
+        if (localDbSqlite::isLocked(query_->lastError())) {
+            localDbTellStatement("classImplementationMethodFunction", sql,
+                                 localDbErrors(queryConnection_, *query_, sql));
+        }
         return false;
     }
     const QSqlRecord fields = query_->record();

@@ -67,8 +67,6 @@ bool localDb::dbQueryExec(std::u16string_view connection, std::u16string_view sq
     if (isOpen && exec(query, localDbQString(sql))) {
         return true;
     }
-    localDbTellPlain(localReport::Kind::critical, "dbQueryExec",
-                     localDbWords(u"Unable to execute query \n", u"SQL : ", sql, u"\n\n",
-                                  localDbLabelled(localDbErrors(connection, query, sql))));
+    localDbTellStatement("dbQueryExec", sql, localDbErrors(connection, query, sql));
     return false;
 }

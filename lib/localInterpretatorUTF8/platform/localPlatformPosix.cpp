@@ -178,6 +178,15 @@ bool removeFile(std::u16string_view name) {
     return systemPath(name, path) && unlink(path.c_str()) == 0;
 }
 
+std::optional<FileIdentity> fileIdentity(std::u16string_view name) {
+    std::string path;
+    struct stat facts {};
+    if (!systemPath(name, path) || stat(path.c_str(), &facts) != 0) {
+        return std::nullopt;
+    }
+    return FileIdentity{facts.st_dev, facts.st_ino};
+}
+
 bool flushToDisk(int descriptor) {
     int result = 0;
     do {

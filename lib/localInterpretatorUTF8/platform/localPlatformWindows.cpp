@@ -62,6 +62,23 @@ bool removeFile(std::u16string_view name) {
     return std::remove(systemPath(name).c_str()) == 0;
 }
 
+std::optional<FileIdentity> fileIdentity(std::u16string_view name) {
+    const HANDLE file = CreateFileA(systemPath(name).c_str(), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return std::nullopt;
+    }
+    BY_HANDLE_FILE_INFORMATION facts{};
+    const bool known = GetFileInformationByHandle(file, &facts) != 0;
+    CloseHandle(file);
+    if (!known) {
+        return std::nullopt;
+    }
+    return FileIdentity{facts.dwVolumeSerialNumber,
+                        std::uint64_t{facts.nFileIndexHigh} << 32 | facts.nFileIndexLow};
+}
+
 bool flushToDisk(int descriptor) {
     return _commit(descriptor) == 0;
 }

@@ -1,6 +1,7 @@
 #include "localDb/connection/localDbConnection.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 #include <filesystem>
 #include <thread>
@@ -10,6 +11,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::Optional;
 
 class localDbConnectionTest : public localDbTest {
 public:
@@ -66,7 +68,7 @@ TEST_F(localDbConnectionTest, onAnotherThreadAnObjectGetsAConnectionOfItsOwn) {
 TEST_F(localDbConnectionTest, withoutAChosenFileNothingOpens) {
     EXPECT_FALSE(connection->open());
     EXPECT_FALSE(localDbConnection::open(name, u""));
-    EXPECT_THAT(connection->tables(), ElementsAre());
+    EXPECT_EQ(connection->tables(), std::nullopt);
     EXPECT_FALSE(connection->database().isOpen());
     EXPECT_FALSE(localDbConnection::open(u"nobody's", u"data.sqlite"));
 }
@@ -92,10 +94,23 @@ TEST_F(localDbConnectionTest, openForTheSameFileGoesOn) {
 TEST_F(localDbConnectionTest, openForAnotherFileClosesTheFirst) {
     make("create table a(id integer primary key);");
     sqliteProgram("other.sqlite", "create table b(id integer primary key);");
-    EXPECT_THAT(connection->tables(), ElementsAre(u"a"));
+    EXPECT_THAT(connection->tables(), Optional(ElementsAre(u"a")));
     EXPECT_TRUE(localDbConnection::open(name, u"other.sqlite"));
-    EXPECT_THAT(connection->tables(), ElementsAre(u"b"));
+    EXPECT_THAT(connection->tables(), Optional(ElementsAre(u"b")));
     EXPECT_EQ(connection->database().databaseName(), "other.sqlite");
+}
+
+TEST_F(localDbConnectionTest, aConnectionOfTheToolkitIsUsedAsItIs) {
+    make("create table a(id integer primary key);");
+    {
+        QSqlDatabase others = QSqlDatabase::addDatabase("QSQLITE", "others");
+        others.setDatabaseName(fileName);
+        EXPECT_TRUE(localDb::dbTableExist(u"others", u"a"));
+        EXPECT_TRUE(others.isOpen());
+        EXPECT_FALSE(localDb::dbTableExist(u"others", u"b"));
+    }
+    QSqlDatabase::removeDatabase("others");
+    EXPECT_THAT(boxes(), ElementsAre());
 }
 
 TEST_F(localDbConnectionTest, aFileIsOpenedWithTheFixedWords) {
@@ -115,7 +130,7 @@ TEST_F(localDbConnectionTest, anotherThreadIsToldThatItCannotUseAConnection) {
         EXPECT_FALSE(localDbConnection::isHere(name));
         EXPECT_FALSE(connection->open());
         EXPECT_FALSE(localDbConnection::open(name, wide(fileName)));
-        EXPECT_THAT(connection->tables(), ElementsAre());
+        EXPECT_EQ(connection->tables(), std::nullopt);
         QSqlQuery query;
         EXPECT_FALSE(localDb::dbQueryExec(name, u"select * from t;", query));
         EXPECT_FALSE(localDb::dbtDelete(name, u"t"));
@@ -135,7 +150,7 @@ TEST_F(localDbConnectionTest, whatAFinishedThreadLeftBehindIsToldOf) {
     std::thread([&] {
         left = std::make_unique<localDbConnection>(u"left");
         EXPECT_TRUE(localDbConnection::open(u"left", wide(fileName)));
-        EXPECT_THAT(left->tables(), ElementsAre(u"t"));
+        EXPECT_THAT(left->tables(), Optional(ElementsAre(u"t")));
     }).join();
     // A thread that comes later may get the number of the one that ended.
     std::thread([&] { EXPECT_FALSE(left->open()); }).join();
@@ -152,8 +167,10 @@ TEST_F(localDbConnectionTest, aNewHoldTakesAConnectionOverFromAThreadThatEnded) 
     std::unique_ptr<localDbConnection> left;
     std::thread([&] { left = std::make_unique<localDbConnection>(u"left"); }).join();
     const localDbConnection mine(u"left");
+    // Under the old name, but made on this thread.
+    EXPECT_EQ(mine.database().driver()->thread(), QThread::currentThread());
     EXPECT_TRUE(localDbConnection::open(u"left", wide(fileName)));
-    EXPECT_THAT(left->tables(), ElementsAre(u"t"));
+    EXPECT_THAT(left->tables(), Optional(ElementsAre(u"t")));
 }
 
 TEST_F(localDbConnectionTest, twoThreadsReadOneFileOverConnectionsOfTheirOwn) {
@@ -191,12 +208,12 @@ TEST_F(localDbConnectionTest, theDefaultNameIsTakenWhenItsFileExists) {
     std::filesystem::current_path("in");
     localDb::applicationSetDataFullFileName(u"gone.sqlite");
     testing::internal::CaptureStdout();
-    EXPECT_EQ(localDb::applicationGetDataFullFileName(), u"../lib/Zakup200215.sqlite");
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "defaultName=../lib/Zakup200215.sqlite\n");
+    EXPECT_EQ(localDb::applicationGetDataFullFileName(), u"..\\lib\\Zakup200215.sqlite");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "defaultName=..\\lib\\Zakup200215.sqlite\n");
     std::filesystem::current_path("..");
     EXPECT_THAT(host.calls, ElementsAre());
     EXPECT_EQ(QCoreApplication::instance()->property("dataFileName").toString(),
-              "../lib/Zakup200215.sqlite");
+              "..\\lib\\Zakup200215.sqlite");
 }
 
 TEST_F(localDbConnectionTest, elseAPersonChooses) {
@@ -209,7 +226,7 @@ TEST_F(localDbConnectionTest, elseAPersonChooses) {
 }
 
 TEST_F(localDbConnectionTest, anEmptyChoiceKeepsTheDefaultName) {
-    EXPECT_EQ(localDb::applicationGetDataFullFileName(), u"../lib/Zakup200215.sqlite");
+    EXPECT_EQ(localDb::applicationGetDataFullFileName(), u"..\\lib\\Zakup200215.sqlite");
 }
 
 TEST_F(localDbConnectionTest, theMainConnectionOpensOnAFile) {

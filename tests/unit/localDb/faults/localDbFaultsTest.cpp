@@ -147,6 +147,17 @@ TEST_F(localDbFaultsTest, aFileCutInHalfIsReported) {
 TEST_F(localDbFaultsTest, aFileOfOtherBytesIsReported) {
     connection->database().close();
     overwrite(0, 4096);
+    testing::internal::CaptureStdout();
+    EXPECT_FALSE(localDb::connectionOpen(name, wide(fileName), "caller"));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_THAT(boxes(), ElementsAre("critical [caller] " + plainHead("caller") +
+                                     "Ошибка открытия базы\nfileName = data.sqlite\n"
+                                     "driverText()   = Unable to execute statement\n"
+                                     "databaseText() = file is not a database\n"));
+    host.reports.clear();
+    EXPECT_EQ(connection->tables(), std::nullopt);
+    EXPECT_THAT(boxes(), ElementsAre(HasSubstr("file is not a database")));
+    host.reports.clear();
     EXPECT_EQ(localDb::dbtRecordCount("test", "t"), 0);
     EXPECT_THAT(boxes()[0], HasSubstr("file is not a database"));
 }
@@ -164,15 +175,54 @@ TEST_F(localDbFaultsTest, aFileOverwrittenWhileOpenIsReported) {
     EXPECT_THAT(boxes()[1], StartsWith("warning [fillFromKeyVal]"));
 }
 
-TEST_F(localDbFaultsTest, aFileReplacedWhileOpenIsReadAsItWas) {
+TEST_F(localDbFaultsTest, aFileReplacedWhileOpenIsOpenedAnew) {
     const auto rowsShown = source();
-    sqliteProgram("new.sqlite", "create table other(id integer primary key);");
+    sqliteProgram("new.sqlite",
+                  "create table t(id integer primary key, a CHAR(40));"
+                  "insert into t values (1,'another file'); create index t_a on t(a);");
     std::filesystem::rename("new.sqlite", fileName);
+    rowsShown->fillFromKeyVal({});
+    EXPECT_EQ(rowsShown->dataBuffer().size(), 1U);
+    EXPECT_TRUE(append(u"new"));
+    sqliteProgram(fileName, "delete from t where a='new' and id=2;");
+    EXPECT_EQ(localDb::dbtRecordCount("test", "t"), 1);
+    EXPECT_THAT(boxes(), ElementsAre());
+}
+
+TEST_F(localDbFaultsTest, aTableThatTheNewFileLacksIsReported) {
+    const auto rowsShown = source();
+    std::filesystem::remove(fileName);
+    sqliteProgram(fileName, "create table other(id integer primary key);");
     rowsShown->fillFromKeyVal({u"row 00500"});
-    EXPECT_EQ(rowsShown->cell(0, 0), "500");
-    connection->database().close();
-    EXPECT_EQ(localDb::dbtRecordCount("test", "t"), 0);
+    EXPECT_THAT(rowsShown->dataBuffer(), testing::IsEmpty());
     EXPECT_THAT(boxes()[0], HasSubstr("no such table: t"));
+    EXPECT_TRUE(localDb::dbTableExist(name, u"other"));
+}
+
+TEST_F(localDbFaultsTest, aFileMadeAnewUnderItsNameIsOpenedAnew) {
+    std::filesystem::remove(fileName);
+    sqliteProgram(fileName, "create table other(id integer primary key);");
+    EXPECT_TRUE(localDbConnection::open(name, wide(fileName)));
+    EXPECT_THAT(connection->tables(), testing::Optional(ElementsAre(u"other")));
+}
+
+TEST_F(localDbFaultsTest, aFileThatIsGoneIsReportedAndNotMadeAnew) {
+    std::filesystem::remove(fileName);
+    EXPECT_FALSE(append(u"new"));
+    EXPECT_THAT(boxes()[0], HasSubstr("The connection is not open."));
+    EXPECT_FALSE(std::filesystem::exists(fileName));
+    EXPECT_EQ(connection->tables(), std::nullopt);
+    sqliteProgram(fileName, "create table t(id integer primary key, a CHAR(40));");
+    EXPECT_TRUE(append(u"new"));
+}
+
+TEST_F(localDbFaultsTest, aTransactionUnderWayInAReplacedFileIsTold) {
+    localValueTable table;
+    EXPECT_TRUE(localDb::queryExecToValueTable(name, table, u"BEGIN"));
+    std::filesystem::remove(fileName);
+    sqliteProgram(fileName, "create table t(id integer primary key);");
+    EXPECT_FALSE(localDb::queryExecToValueTable(name, table, u"COMMIT"));
+    EXPECT_THAT(boxes(), ElementsAre(HasSubstr("no transaction is active")));
 }
 
 TEST_F(localDbFaultsTest, aTableDroppedBetweenTwoCallsIsReported) {

@@ -243,6 +243,49 @@ TEST_F(localDataBaseTest, aWalkThatCannotReadOnSaysSo) {
                 HasSubstr("NEXT() cannot read on: database disk image is malformed"));
 }
 
+TEST_F(localDataBaseTest, aWalkEndsWithTheConnectionThatItWasBegunOn) {
+    fileMake("other.sqlite");
+    EXPECT_TRUE(goods().select(status_, u""));
+    EXPECT_TRUE(goods().next(status_));
+    localDb::applicationSetDataFullFileName(u"other.sqlite");
+    EXPECT_TRUE(base().connect(status_));
+    output.clear();
+    EXPECT_FALSE(goods().next(status_));
+    EXPECT_EQ(status_, localErrorTypeDATABASECONNECTION);
+    EXPECT_THAT(output.text(), HasSubstr("NEXT() cannot read on: "));
+}
+
+TEST_F(localDataBaseTest, aFileMadeAnewUnderItsNameIsConnectedTo) {
+    EXPECT_TRUE(goods().select(status_, u""));
+    fileMake("data.sqlite");
+    EXPECT_TRUE(base().connect(status_));
+    EXPECT_FALSE(base().hasTable(u"Goods"));
+    // SELECT has read the first row ahead.
+    EXPECT_TRUE(goods().next(status_));
+    EXPECT_FALSE(goods().next(status_));
+    EXPECT_EQ(status_, localErrorTypeDATABASECONNECTION);
+    EXPECT_THAT(host.calls, IsEmpty());
+}
+
+TEST_F(localDataBaseTest, aFileOfOtherBytesIsToldOfByEachCall) {
+    {
+        std::fstream file("data.sqlite", std::ios::in | std::ios::out | std::ios::binary);
+        file << std::string(4096, 'Z');
+    }
+    // The connection has pages in its memory until others have changed the file.
+    localDbConnection::database(base().name()).close();
+    EXPECT_FALSE(base().connect(status_));
+    EXPECT_EQ(status_, localErrorTypeOK);
+    ASSERT_EQ(host.reports.size(), 1U);
+    EXPECT_THAT(utf8(host.reports[0].text), HasSubstr("Ошибка открытия базы"));
+    EXPECT_THAT(utf8(host.reports[0].text), HasSubstr("databaseText() = file is not a database"));
+    EXPECT_FALSE(base().hasTable(u"Goods"));
+    localValueTable fields;
+    EXPECT_FALSE(base().fieldsToValueTable(u"Goods", fields));
+    ASSERT_EQ(host.reports.size(), 3U);
+    EXPECT_THAT(utf8(host.reports[2].text), HasSubstr("file is not a database"));
+}
+
 TEST_F(localDataBaseTest, aNullResultIsWantedOfTheCaller) {
     localValueDescription cell;
     localValueDescription* result = &cell;

@@ -118,6 +118,23 @@ TEST_F(localPlatformTest, filesAreRemovedAndFoldersAreNot) {
     EXPECT_TRUE(pathExists(u"folder"));
 }
 
+TEST_F(localPlatformTest, aFileIsToldFromOneMadeAnewUnderItsName) {
+    std::ofstream("file.txt") << "first";
+    const auto first = fileIdentity(u"file.txt");
+    ASSERT_TRUE(first);
+    EXPECT_EQ(fileIdentity(u"./file.txt"), first);
+    std::ofstream("file.txt") << "other bytes, the same file";
+    EXPECT_EQ(fileIdentity(u"file.txt"), first);
+    // Its number is not given to another as long as somebody has it open.
+    const std::ifstream open("file.txt");
+    std::filesystem::remove("file.txt");
+    EXPECT_FALSE(fileIdentity(u"file.txt"));
+    std::ofstream("file.txt") << "second";
+    ASSERT_TRUE(fileIdentity(u"file.txt"));
+    EXPECT_NE(fileIdentity(u"file.txt"), first);
+    EXPECT_FALSE(fileIdentity(std::u16string_view(u"file.txt\0", 9)));
+}
+
 TEST_F(localPlatformTest, theWorkingDirectoryIsChanged) {
     const std::u16string before = workingDirectory();
     std::filesystem::create_directory("каталог");

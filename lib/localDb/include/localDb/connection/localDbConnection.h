@@ -11,6 +11,7 @@
 
 #include <QSqlDatabase>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,14 +45,19 @@ public:
     QSqlDatabase database() const { return database(name_); }
 
     // Chooses a file and opens it. Open for that file already: stays open, with all that is under
-    // way. Open for another: closes it first. Tells nobody. False also away from home.
+    // way. Open for another, or for one that has been replaced since: closes it first. Tells
+    // nobody. False also away from home.
     static bool open(std::u16string_view name, std::u16string_view fileName);
-    // Opens the file that was chosen, if it is not open. False where none was chosen, too.
+    // Opens the file that was chosen, if it is not open or has been replaced since. False where
+    // none was chosen, too, and where that file is gone.
     static bool open(std::u16string_view name);
     bool open() const { return open(name_); }
 
-    // The names of the tables, as the driver lists them; opens the chosen file when it has to.
-    std::vector<std::u16string> tables() const;
+    // Whether the chosen file can be read; opens it when it has to. A locked one is waited for,
+    // which the driver's own lists do not do. A box tells of a file that opens and cannot be read.
+    bool isReadable() const;
+    // The names of the tables, as the driver lists them. Nothing when the file cannot be read.
+    std::optional<std::vector<std::u16string>> tables() const;
 
 private:
     std::u16string name_;

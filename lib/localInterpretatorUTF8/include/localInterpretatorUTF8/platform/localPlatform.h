@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,16 @@ std::FILE* openFile(std::u16string_view name, const char* mode);
 bool fileReadable(std::u16string_view name);
 bool pathExists(std::u16string_view path);
 bool removeFile(std::u16string_view name);
+
+// What tells a file from all others: the same under each of its names, another one for a file that
+// was made under the name of one that is still open.
+struct FileIdentity {
+    std::uint64_t volume = 0;
+    std::uint64_t number = 0;
+    bool operator==(const FileIdentity&) const = default;
+};
+// Empty when there is no such file.
+std::optional<FileIdentity> fileIdentity(std::u16string_view name);
 
 // Waits until what was written to an open file has reached the disk. False when it could not.
 bool flushToDisk(int descriptor);
