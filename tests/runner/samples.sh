@@ -14,9 +14,6 @@ fail() {
 # The data file that the first of the samples builds for others. Where it lies, and where objects
 # do, is not told.
 export KORVO_DATA=demo.sqlite
-# The toolkit speaks up where a user has no such folder.
-export XDG_RUNTIME_DIR=$PWD/user
-mkdir -m 700 "$XDG_RUNTIME_DIR"
 (cp -r "$samples" copy && cd copy && "$KORVO_RUN" demoData.prg) >/dev/null 2>&1
 mv copy/demo.sqlite . && rm -r copy
 told() {
