@@ -90,6 +90,15 @@ constexpr localMethodRow methods[] = {
      }},
     {u"FAIL", u"ОТКАЗ", "n",
      [](localCall& call) { return call.fail(static_cast<int>(call.number(0))); }},
+    {u"THROW", u"БРОСИТЬ", "s",
+     [](localCall& call) -> bool {
+         const localSlot held = localSlot::reserve();
+         held->setVal(call.text(0));
+         if (call.text(0) == u"memory") {
+             throw std::bad_alloc();
+         }
+         throw std::length_error("on purpose");
+     }},
     {u"ABOVE", u"СВЕРХУ", "", localBroughtFromAbove},
 };
 

@@ -144,6 +144,18 @@ TEST_F(localModuleTest, failuresInAModuleEndTheCallOnly) {
     EXPECT_EQ(valueOf("PIXMAPASBASE64FROMFILEGET(\"1\")"), "1");
 }
 
+// Thrown in one file and caught in the other.
+TEST_F(localModuleTest, whatAMethodOfAModuleThrowsEndsTheCallOnly) {
+    EXPECT_EQ(valueOf("CLASSLOAD(\"V77\")"), "ИСТИНА");
+    set(u"kept", "CREATEOBJECT(\"V77\")");
+    EXPECT_EQ(valueOf("kept.KEEP(\"value\")"), "1");
+    EXPECT_EQ(valueOf("kept.THROW(\"memory\")"), "16");
+    EXPECT_THAT(lines, testing::Contains("Недостаточно памяти!"));
+    EXPECT_EQ(valueOf("kept.БРОСИТЬ(\"length\")"), "16");
+    EXPECT_EQ(valueOf("kept.KEPT()"), "value");
+    context.varRemoveAll();
+}
+
 TEST_F(localModuleTest, aMissingFileIsStatus26WithoutAWord) {
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(valueOf("COLOR(\"red\")"), "26");
