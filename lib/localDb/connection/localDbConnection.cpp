@@ -90,22 +90,23 @@ bool localDbConnection::isHere(std::u16string_view name) {
     return QSqlDatabase::database(localDbQString(name), false).isValid();
 }
 
-localDbConnection::localDbConnection(std::u16string_view name) : name_(name) {
-    const QString known = localDbQString(name);
+localDbConnection::localDbConnection(std::u16string_view name)
+    : name_(name), known_(localDbQString(name)) {
+    const Thread& here = thisThread();
     Connections& all = connections();
     const std::lock_guard lock(all.mutex);
     Held& held = all.byName[name_];
     if (held.holds++ != 0 && held.owner.expired()) {
         // The thread it belonged to has ended. What it made is closed, and made anew here.
-        QSqlDatabase::removeDatabase(known);
+        QSqlDatabase::removeDatabase(known_);
         held.file.clear();
         held.owner.reset();
     }
-    if (!QSqlDatabase::contains(known)) {
-        QSqlDatabase::addDatabase(localDbSqlite::driver(), known);
+    if (!QSqlDatabase::contains(known_)) {
+        QSqlDatabase::addDatabase(localDbSqlite::driver(), known_);
     }
     if (held.owner.expired()) {
-        held.owner = thisThread();
+        held.owner = here;
     }
 }
 
@@ -115,7 +116,7 @@ localDbConnection::~localDbConnection() {
     const auto found = all.byName.find(name_);
     if (--found->second.holds == 0) {
         all.byName.erase(found);
-        QSqlDatabase::removeDatabase(localDbQString(name_));
+        QSqlDatabase::removeDatabase(known_);
     }
 }
 

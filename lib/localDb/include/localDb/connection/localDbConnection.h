@@ -10,6 +10,7 @@
 #pragma once
 
 #include <QSqlDatabase>
+#include <QString>
 
 #include <optional>
 #include <string>
@@ -61,4 +62,5 @@ public:
 
 private:
     std::u16string name_;
+    QString known_;  // the name as the toolkit has it
 };
