@@ -29,6 +29,9 @@ oneLess() {
 }
 
 startDisplay
+# As every session on a desktop has it.
+export XDG_RUNTIME_DIR=$PWD/session
+mkdir -m 700 session
 
 # A name counts from where the program was started.
 export KORVO_DATA='with blank/goods.sqlite'

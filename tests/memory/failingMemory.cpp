@@ -1,7 +1,10 @@
 #include "memory/failingMemory.h"
 
+#include <dlfcn.h>
+
 #include <cstdlib>
 #include <new>
+#include <string_view>
 
 namespace failingMemory {
 namespace {
@@ -11,6 +14,16 @@ Mode failureMode = Mode::once;
 std::size_t asked = 0;
 std::size_t firstToFail = 0;
 std::size_t refusedCount = 0;
+
+// Its operators new come here, too.
+bool isOfTheToolkit(const void* caller) {
+    Dl_info place{};
+    if (dladdr(caller, &place) == 0 || place.dli_fname == nullptr) {
+        return false;
+    }
+    const std::string_view file = place.dli_fname;
+    return file.find("libQt6") != file.npos || file.find("sqldrivers") != file.npos;
+}
 
 }  // namespace
 
@@ -27,8 +40,8 @@ std::size_t end() {
     return refusedCount;
 }
 
-static bool refuses() {
-    if (!active) {
+static bool refuses(const void* caller) {
+    if (!active || isOfTheToolkit(caller)) {
         return false;
     }
     ++asked;
@@ -44,19 +57,19 @@ static bool refuses() {
 extern "C" {
 void* __real_malloc(std::size_t size);
 void* __wrap_malloc(std::size_t size) {
-    return failingMemory::refuses() ? nullptr : __real_malloc(size);
+    return failingMemory::refuses(__builtin_return_address(0)) ? nullptr : __real_malloc(size);
 }
 }
 
 namespace {
 
-void* allocated(std::size_t size) {
-    return failingMemory::refuses() ? nullptr : __real_malloc(size == 0 ? 1 : size);
+void* allocated(std::size_t size, const void* caller) {
+    return failingMemory::refuses(caller) ? nullptr : __real_malloc(size == 0 ? 1 : size);
 }
 
-void* allocated(std::size_t size, std::align_val_t alignment) {
+void* allocated(std::size_t size, std::align_val_t alignment, const void* caller) {
     const auto boundary = static_cast<std::size_t>(alignment);
-    return failingMemory::refuses()
+    return failingMemory::refuses(caller)
                ? nullptr
                : std::aligned_alloc(boundary, (size + boundary - 1) / boundary * boundary);
 }
@@ -71,22 +84,22 @@ void* orThrow(void* memory) {
 }  // namespace
 
 void* operator new(std::size_t size) {
-    return orThrow(allocated(size));
+    return orThrow(allocated(size, __builtin_return_address(0)));
 }
 void* operator new[](std::size_t size) {
-    return orThrow(allocated(size));
+    return orThrow(allocated(size, __builtin_return_address(0)));
 }
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return allocated(size);
+    return allocated(size, __builtin_return_address(0));
 }
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-    return allocated(size);
+    return allocated(size, __builtin_return_address(0));
 }
 void* operator new(std::size_t size, std::align_val_t alignment) {
-    return orThrow(allocated(size, alignment));
+    return orThrow(allocated(size, alignment, __builtin_return_address(0)));
 }
 void* operator new[](std::size_t size, std::align_val_t alignment) {
-    return orThrow(allocated(size, alignment));
+    return orThrow(allocated(size, alignment, __builtin_return_address(0)));
 }
 void operator delete(void* memory) noexcept {
     std::free(memory);

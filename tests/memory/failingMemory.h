@@ -1,8 +1,8 @@
 // An allocator that fails when it is told to: what the language asks for, by operator new or by
 // malloc, comes through here in the test of memory that runs out.
 //
-// Requests are counted from begin() to end() and only then do they fail. What the C library and the
-// threads of others ask for by themselves is theirs.
+// Requests are counted from begin() to end() and only then do they fail. What the C library, the
+// toolkit and the threads of others ask for by themselves is theirs.
 #pragma once
 
 #include <cstddef>

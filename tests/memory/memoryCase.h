@@ -28,6 +28,8 @@ struct memoryCase {
 std::vector<memoryCase> functionCases();
 // The members of the classes: "CLASS.MEMBER", "CLASS.new" and "CLASS.end".
 std::vector<memoryCase> memberCases();
+// The same of the classes of the data file, which has a table Goods.
+std::vector<memoryCase> databaseCases();
 // Kinds of statement.
 std::vector<memoryCase> statementCases();
 // Typed lines.

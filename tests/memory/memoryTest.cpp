@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <iostream>
 #include <memory>
@@ -30,6 +31,14 @@
 #include "memory/failingMemory.h"
 #include "memory/memoryCase.h"
 #include "memory/memoryState.h"
+#ifdef KORVO_DATABASE
+#include "localDb/localDb.h"
+#include "localDb/localDbExtension.h"
+#include "localDb/script/localDataBase.h"
+#include "localDb/script/localDataBaseRecord.h"
+#include "localDb/script/localDataBaseTable.h"
+#include "localInterpretatorUTF8/text/localString.h"
+#endif
 
 namespace {
 
@@ -104,14 +113,42 @@ std::ostream& operator<<(std::ostream& stream, const outcome& shown) {
                   << "\noutput " << shown.output;
 }
 
+#ifdef KORVO_DATABASE
+void makeDataFile() {
+    constexpr std::u16string_view file = u"data.sqlite";
+    const localDbConnection connection(u"maker");
+    EXPECT_TRUE(localDbConnection::open(connection.name(), file));
+    for (
+        const std::u16string_view sql :
+        {u"create table Goods (id INTEGER PRIMARY KEY, CODE CHAR(9), descr CHAR(40))",
+         u"insert into Goods (CODE,descr) values ('001','Nails that are longer than a text without "
+         u"the heap'),('002',null)"}) {
+        QSqlQuery query;
+        EXPECT_TRUE(localDb::dbQueryExec(connection.name(), sql, query));
+    }
+    localDb::applicationSetDataFullFileName(file);
+    for (const auto declaration :
+         {localDataBase::classDeclaration, localDataBaseTable::classDeclaration,
+          localDataBaseRecord::classDeclaration}) {
+        declaration();
+    }
+}
+#endif
+
 class memoryTest : public testing::TestWithParam<memoryCase> {
 protected:
     memoryTest() {
         if (localContextUTF8::globalContext == nullptr) {
+#ifdef KORVO_DATABASE
+            localExtensionAdd(localDbExtension);
+            makeDataFile();
+#endif
             int status = localErrorTypeOK;
             localContextUTF8::createGlobal(status).release();  // lives to the end of the process
         }
+        // Classes are made at their first use.
         localDateTime::classDeclaration();
+        localClassForTest::classDeclaration();
         localSlot::reserve();
     }
 
@@ -248,11 +285,6 @@ std::string testName(const testing::TestParamInfo<memoryCase>& info) {
     return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(function, memoryTest, testing::ValuesIn(functionCases()), testName);
-INSTANTIATE_TEST_SUITE_P(member, memoryTest, testing::ValuesIn(memberCases()), testName);
-INSTANTIATE_TEST_SUITE_P(statement, memoryTest, testing::ValuesIn(statementCases()), testName);
-INSTANTIATE_TEST_SUITE_P(line, memoryTest, testing::ValuesIn(lineCases()), testName);
-
 std::set<std::string> namesOf(const std::vector<memoryCase>& cases) {
     std::set<std::string> names;
     for (const memoryCase& each : cases) {
@@ -260,6 +292,37 @@ std::set<std::string> namesOf(const std::vector<memoryCase>& cases) {
     }
     return names;
 }
+
+void expectACaseForEachMember(const std::vector<localClassDeclaration*>& classes,
+                              const std::vector<memoryCase>& cases) {
+    const std::set<std::string> names = namesOf(cases);
+    for (const localClassDeclaration* declaration : classes) {
+        for (const auto& member : declaration->members()) {
+            const bool isRussian = std::any_of(member->name.begin(), member->name.end(),
+                                               [](char16_t unit) { return unit > u'~'; });
+            const std::string name = member->name.empty()   ? "new"
+                                     : member->name == u"~" ? "end"
+                                                            : localString::toUtf8(member->name);
+            const std::string key = localString::toUtf8(declaration->nameEng) + "." + name;
+            EXPECT_TRUE(isRussian || names.contains(key)) << key;
+        }
+    }
+}
+
+#ifdef KORVO_DATABASE
+INSTANTIATE_TEST_SUITE_P(database, memoryTest, testing::ValuesIn(databaseCases()), testName);
+
+TEST(memoryCases, everyMemberOfTheDataFileHasOne) {
+    expectACaseForEachMember({localDataBase::classDeclaration(),
+                              localDataBaseTable::classDeclaration(),
+                              localDataBaseRecord::classDeclaration()},
+                             databaseCases());
+}
+#else
+INSTANTIATE_TEST_SUITE_P(function, memoryTest, testing::ValuesIn(functionCases()), testName);
+INSTANTIATE_TEST_SUITE_P(member, memoryTest, testing::ValuesIn(memberCases()), testName);
+INSTANTIATE_TEST_SUITE_P(statement, memoryTest, testing::ValuesIn(statementCases()), testName);
+INSTANTIATE_TEST_SUITE_P(line, memoryTest, testing::ValuesIn(lineCases()), testName);
 
 // What a process makes at its first use: the store, the global context, tables of names, classes.
 constexpr std::string_view firstProgram =
@@ -370,19 +433,10 @@ TEST(memoryCases, everyFunctionHasOne) {
 }
 
 TEST(memoryCases, everyMemberHasOne) {
-    const std::set<std::string> names = namesOf(memberCases());
-    for (const localClassDeclaration* declaration :
-         {localValueList::classDeclaration(), localValueTable::classDeclaration(),
-          localClassForTest::classDeclaration(), localDateTime::classDeclaration()}) {
-        for (const auto& member : declaration->members()) {
-            const bool isRussian = !member->name.empty() && member->name.front() > u'~';
-            const std::string name = member->name.empty()   ? "new"
-                                     : member->name == u"~" ? "end"
-                                                            : localString::toUtf8(member->name);
-            const std::string key = localString::toUtf8(declaration->nameEng) + "." + name;
-            EXPECT_TRUE(isRussian || names.contains(key)) << key;
-        }
-    }
+    expectACaseForEachMember(
+        {localValueList::classDeclaration(), localValueTable::classDeclaration(),
+         localClassForTest::classDeclaration(), localDateTime::classDeclaration()},
+        memberCases());
 }
 
 void collectTypes(const localOperatorCompiled& node, std::set<std::int32_t>& types) {
@@ -408,5 +462,6 @@ TEST(memoryCases, everyKindOfStatementHasOne) {
         EXPECT_TRUE(type == localCompiledOperatorTypeCONTINUE || types.contains(type)) << type;
     }
 }
+#endif
 
 }  // namespace
