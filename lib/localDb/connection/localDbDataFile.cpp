@@ -77,7 +77,7 @@ std::u16string localDb::applicationGetDataFullFileName() {
 bool localDb::connectionOpen(std::u16string_view connection, std::u16string_view fileName,
                              std::string_view caller) {
     const std::u16string callerName = localString::fromUtf8(caller);
-    if (!localDbUsable(connection, caller, localDbUnknownShort(connection, callerName))) {
+    if (!localDbUsable(connection, caller, {.title = callerName})) {
         return false;
     }
     QSqlError error;

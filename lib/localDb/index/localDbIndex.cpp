@@ -45,8 +45,7 @@ std::vector<std::u16string> localDb::idxKeyFieldNamesGet(std::u16string_view con
 }
 
 bool localDb::idxDelete(std::u16string_view connection, std::u16string_view index) {
-    if (!localDbUsable(connection, "idxDelete",
-                       localDbUnknown(connection, "idxDelete", u"database ", u" not found!"))) {
+    if (!localDbUsable(connection, "idxDelete", {.before = u"database "})) {
         return false;
     }
     const std::u16string sql = localDbWords(u"drop index ", index, u";");

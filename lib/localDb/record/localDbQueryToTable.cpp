@@ -46,7 +46,7 @@ bool localDb::queryExecToValueTable(std::u16string_view connection, localValueTa
                                     std::u16string_view sql) {
     table.clear();
     if (!localDbUsable(connection, "queryExecToValueTable",
-                       localDbUnknownShort(connection, u"localDb::queryExecToValueTable")) ||
+                       {.title = u"localDb::queryExecToValueTable"}) ||
         !localDbConnection::open(connection)) {
         return false;
     }

@@ -32,7 +32,7 @@ void tellBlock(const BlockWords& words, const localDbErrors& errors, std::u16str
 }
 
 bool usable(std::u16string_view connection, const BlockWords& words) {
-    return localDbUsable(connection, words.function, localDbUnknownShort(connection, words.title));
+    return localDbUsable(connection, words.function, {.title = words.title});
 }
 
 // The narrow value of a field may have lost a letter; then nothing is written.
@@ -130,7 +130,7 @@ bool localDb::dbtRecordGetById(std::u16string_view connection, std::u16string_vi
                                std::int64_t id, QSqlRecord& record) {
     record = QSqlRecord();
     if (!localDbUsable(connection, "dbtRecordGetById",
-                       localDbUnknownShort(connection, u"localDb::dbTableRecordGetById"))) {
+                       {.title = u"localDb::dbTableRecordGetById"})) {
         return false;
     }
     const std::u16string sql =
@@ -154,7 +154,7 @@ bool localDb::dbtRecordGetById(std::u16string_view connection, std::u16string_vi
 bool localDb::dbtRecordDelete(std::u16string_view connection, std::u16string_view table,
                               std::int64_t id) {
     if (!localDbUsable(connection, "dbtRecordDelete",
-                       localDbUnknownShort(connection, u"localDb::dbTableRecordDelete() "))) {
+                       {.title = u"localDb::dbTableRecordDelete() "})) {
         return false;
     }
     if (!localDbAsk(u"localDb::dbtRecordDelete()",
@@ -213,8 +213,7 @@ bool localDb::d1btRecordUpdate(std::u16string_view connection, std::u16string_vi
 
 std::u16string localDb::dbtFieldGetMaxVal(std::u16string_view connection, std::u16string_view table,
                                           std::u16string_view field) {
-    if (!localDbUsable(connection, "dbtFieldGetMaxVal",
-                       localDbUnknownShort(connection, u"localDb::dbtFieldGetMaxVal"))) {
+    if (!localDbUsable(connection, "dbtFieldGetMaxVal", {.title = u"localDb::dbtFieldGetMaxVal"})) {
         return {};
     }
     localDbConnection::open(connection);

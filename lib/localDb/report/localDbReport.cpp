@@ -96,9 +96,15 @@ void localDbTellFailed(std::string_view function, std::u16string_view sql,
 }
 
 bool localDbUsable(std::u16string_view connection, std::string_view function,
-                   const localReport& whenUnknown, std::source_location place) {
+                   const localDbUnknown& whenUnknown, std::source_location place) {
     if (!localDbConnection::exists(connection)) {
-        localHost::current().report(whenUnknown);
+        const std::u16string words =
+            localDbWords(whenUnknown.before, connection, whenUnknown.behind);
+        if (whenUnknown.title.empty()) {
+            localDbTellHtml(localReport::Kind::warning, function, words, place);
+        } else {
+            localDbTell(localReport::Kind::warning, whenUnknown.title, words);
+        }
         return false;
     }
     if (!localDbConnection::isHere(connection)) {
@@ -108,19 +114,4 @@ bool localDbUsable(std::u16string_view connection, std::string_view function,
         return false;
     }
     return true;
-}
-
-localReport localDbUnknownShort(std::u16string_view connection, std::u16string_view title) {
-    return {.kind = localReport::Kind::warning,
-            .title = std::u16string(title),
-            .text = localDbWords(connection, u" not found!")};
-}
-
-localReport localDbUnknown(std::u16string_view connection, std::string_view function,
-                           std::u16string_view before, std::u16string_view behind,
-                           std::source_location place) {
-    return {.kind = localReport::Kind::warning,
-            .title = localString::fromUtf8(function),
-            .text = localDbWords(localDbHtmlLocation(function, place), before, connection, behind),
-            .form = localReport::Form::html};
 }

@@ -55,13 +55,17 @@ void localDbTellStatement(std::string_view function, std::u16string_view sql,
 void localDbTellFailed(std::string_view function, std::u16string_view sql,
                        std::source_location place = std::source_location::current());
 
+// The box for an unknown connection. It is put together only when it is shown: each statement has
+// one at hand.
+struct localDbUnknown {
+    // Of the short form; the one with a place has the function's name.
+    std::u16string_view title = {};
+    std::u16string_view before = {};
+    std::u16string_view behind = u" not found!";
+};
+
 // Whether a connection can be used here. One that belongs to another thread is told of; for one
 // that nobody knows there is the box given.
 bool localDbUsable(std::u16string_view connection, std::string_view function,
-                   const localReport& whenUnknown,
+                   const localDbUnknown& whenUnknown,
                    std::source_location place = std::source_location::current());
-// The boxes for an unknown connection.
-localReport localDbUnknownShort(std::u16string_view connection, std::u16string_view title);
-localReport localDbUnknown(std::u16string_view connection, std::string_view function,
-                           std::u16string_view before, std::u16string_view behind,
-                           std::source_location place = std::source_location::current());

@@ -58,8 +58,7 @@ bool localDb::exec(QSqlQuery& query, const QString& sql) {
 
 bool localDb::dbQueryExec(std::u16string_view connection, std::u16string_view sql,
                           QSqlQuery& query) {
-    if (!localDbUsable(connection, "dbQueryExec",
-                       localDbUnknownShort(connection, u"localDb::dbQueryExec()"))) {
+    if (!localDbUsable(connection, "dbQueryExec", {.title = u"localDb::dbQueryExec()"})) {
         return false;
     }
     const bool isOpen = localDbConnection::open(connection);

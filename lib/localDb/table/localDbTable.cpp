@@ -37,14 +37,11 @@ bool execTraced(std::u16string_view connection, std::u16string_view sql, std::st
 // The box about an unknown connection has two wordings.
 bool usableBd(std::u16string_view connection, std::string_view function,
               std::source_location place = std::source_location::current()) {
-    return localDbUsable(connection, function,
-                         localDbUnknown(connection, function, u"БД ", u"not found!", place), place);
+    return localDbUsable(connection, function, {.before = u"БД ", .behind = u"not found!"}, place);
 }
 bool usableDatabase(std::u16string_view connection, std::string_view function,
                     std::source_location place = std::source_location::current()) {
-    return localDbUsable(connection, function,
-                         localDbUnknown(connection, function, u"database ", u" not found!", place),
-                         place);
+    return localDbUsable(connection, function, {.before = u"database "}, place);
 }
 
 // "Table X not found in Y!" and its kin. Gives whether the table is as it should be.
