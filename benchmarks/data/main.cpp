@@ -18,12 +18,16 @@
 #include <ctime>
 #include <filesystem>
 #include <functional>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "localDb/index/localDbDataSource200123.h"
 #include "localDb/localDb.h"
+#include "localDb/script/localDataBase.h"
+#include "localDb/script/localDataBaseRecord.h"
+#include "localDb/script/localDataBaseTable.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
 
@@ -206,20 +210,26 @@ void measureStatements(long long rows, const plainReader& plain, sqlite3* handle
            measured([&] { localDb::queryExecToValueTable(connectionName, table, hundred); }),
            measured([&] { plain.read({std::string(hundred.begin(), hundred.end())}); }));
 
-    const std::string all = "select * from Ref03 limit 100000";
-    report("read of 100,000 records", rows,
+    localValueDescription base;
+    base.objectBind(new localDataBase, localDataBase::classDeclaration());
+    auto& opened = *static_cast<localDataBase*>(base.pointer);
+    localValueDescription record;
+    int status = localErrorTypeOK;
+    // What it says has no place in the table.
+    std::cout.setstate(std::ios::failbit);
+    opened.connect(status);
+    std::cout.clear();
+    record.objectBind(new localDataBaseRecord(new localDataBaseTable(opened.reference(), u"Ref03")),
+                      localDataBaseRecord::classDeclaration());
+    auto& goods = *static_cast<localDataBaseRecord*>(record.pointer);
+    report("NEXT over 100,000 records", rows,
            measured(
                [&] {
-                   QSqlQuery query(localDbConnection::database(connectionName));
-                   localDb::exec(query, QString::fromStdString(all));
-                   while (query.next()) {
-                       for (int i = 0; i < 11; ++i) {
-                           query.value(i).toString();
-                       }
-                   }
+                   goods.select(status, u"id<=100000");
+                   while (goods.next(status)) {}
                },
                3),
-           measured([&] { plain.read({all}); }, 3));
+           measured([&] { plain.read({"select * from Ref03 where id<=100000 ;"}); }, 3));
 
     localDbFieldDescription name(u"descr", u"CHAR", 50, 0);
     name.value = "goods of a new name";
@@ -256,6 +266,7 @@ void measureSize(long long rows) {
     const std::string file = "bench" + std::to_string(rows) + ".sqlite";
     makeFile(file, rows);
     const std::u16string wideFile(file.begin(), file.end());
+    localDb::applicationSetDataFullFileName(wideFile);
     const localDbConnection connection(connectionName);
     const auto open = [&] {
         connection.database().close();

@@ -39,8 +39,9 @@ std::u16string exactWord(const localDbKeyValue& value) {
         return localDbQuoted(value.text);
     }
     if (isInfinite(value)) {
-        // The sign, and a number past all others.
-        return value.text.substr(0, value.text.size() - infinityText.size()) + u"9e999";
+        // The sign stays.
+        return localDbWords(value.text.substr(0, value.text.size() - infinityText.size()),
+                            localDbSqlite::infinityWord);
     }
     return value.text;
 }
@@ -71,7 +72,9 @@ std::u16string notNull(const localDbKeyColumn& column, localDbTermForm form) {
     if (!column.collationSaid) {
         return term(column.name, u" is not null", form);
     }
-    return term(column.term(), column.affinity == Affinity::text ? u">=''" : u">=-9e999", form);
+    const bool isText = column.affinity == Affinity::text;
+    return term(column.term(), isText ? u">=''" : localDbWords(u">=-", localDbSqlite::infinityWord),
+                form);
 }
 
 std::u16string isNullTerm(const localDbKeyColumn& column, localDbTermForm form) {

@@ -35,6 +35,8 @@ inline constexpr std::u16string_view primaryKeyWords = u" PRIMARY KEY AUTOINCREM
 // A name as it can stand in a statement: in double quotes when it is no plain word.
 std::u16string word(std::u16string_view name);
 
+// A number past all others as a word of a statement.
+inline constexpr std::u16string_view infinityWord = u"9e999";
 // Bytes as a word of a statement, from hexadecimal digits.
 std::u16string bytesWord(std::u16string_view digits);
 

@@ -237,6 +237,7 @@ TEST_F(localDbTableTest, droppingCanAskFirst) {
     EXPECT_FALSE(localDb::dbtDeleteAfterAnswer(name, u"t"));
     EXPECT_THAT(boxes(), ElementsAre("question [localDb::dbtDeleteAfterAnswer] html "
                                      "Table \"t\" will be deleted. <BR/> Are you sure? "));
+    EXPECT_THAT(host.reports[0].buttons, ElementsAre(Button::ok, Button::cancel));
     EXPECT_EQ(host.reports[0].defaultButton, Button::cancel);
     EXPECT_TRUE(localDb::dbTableExist(name, u"t"));
     host.answers = {Button::ok};
@@ -298,6 +299,7 @@ TEST_F(localDbTableTest, droppingAnIndexCanAskFirst) {
     EXPECT_FALSE(localDb::idxDeleteAfterAnswer(name, u"t_a"));
     EXPECT_THAT(boxes(), ElementsAre("question [localDb::dbtDeleteAfterAnswer] html "
                                      "Index \"t_a\" will be deleted. <BR/> Are you sure? "));
+    EXPECT_THAT(host.reports[0].buttons, ElementsAre(Button::ok, Button::cancel));
     EXPECT_EQ(host.reports[0].defaultButton, Button::cancel);
     host.answers = {Button::ok};
     EXPECT_TRUE(localDb::idxDeleteAfterAnswer(name, u"t_a"));
