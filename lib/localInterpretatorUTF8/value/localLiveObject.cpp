@@ -10,6 +10,7 @@
 class localLiveRegister {
 public:
     void add(localLiveObject& entry) noexcept {
+        entry.number_ = ++lastNumber_;
         if (++count_ > 2 * bucketCount_) {
             grow();
         }
@@ -86,6 +87,7 @@ private:
     localLiveObject** buckets_ = firstBuckets_;
     std::size_t bucketCount_ = firstBucketCount;
     std::size_t count_ = 0;
+    std::uint64_t lastNumber_ = 0;
     int shift_ = 64 - std::countr_zero(firstBucketCount);
 };
 
@@ -95,7 +97,7 @@ constinit localLiveRegister live;
 }  // namespace
 
 localLiveObject::localLiveObject(const void* object, Kind kind) noexcept
-    : object_(object), kind_(kind) {
+    : object_(object), number_(0), kind_(kind) {
     live.add(*this);
 }
 
@@ -105,6 +107,11 @@ localLiveObject::~localLiveObject() {
 
 bool localLiveObject::stands(const void* object, Kind kind) noexcept {
     return live.find(object, kind) != nullptr;
+}
+
+std::uint64_t localLiveObject::number(const void* object, Kind kind) noexcept {
+    const localLiveObject* const entry = live.find(object, kind);
+    return entry == nullptr ? 0 : entry->number_;
 }
 
 std::size_t localLiveObject::count() noexcept {

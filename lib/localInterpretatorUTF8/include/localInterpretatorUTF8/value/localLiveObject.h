@@ -20,8 +20,10 @@ public:
     localLiveObject& operator=(const localLiveObject&) = delete;
 
     // Whether an object of that kind stands at the address. A new object at the address of one that
-    // has gone cannot be told from it.
+    // has gone cannot be told from it by this.
     static bool stands(const void* object, Kind kind) noexcept;
+    // A number that no other object has or had; 0 when no such object stands there.
+    static std::uint64_t number(const void* object, Kind kind) noexcept;
 
     // Objects that stand, of all kinds.
     static std::size_t count() noexcept;
@@ -31,5 +33,6 @@ private:
 
     const void* object_;
     localLiveObject* next_ = nullptr;  // in its bucket, the older one
+    std::uint64_t number_;
     Kind kind_;
 };

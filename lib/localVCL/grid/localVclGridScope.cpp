@@ -1,0 +1,39 @@
+#include "grid/localVclGridScope.h"
+
+#include "localInterpretatorUTF8/scanner/localScanner.h"
+#include "localInterpretatorUTF8/status/localGuard.h"
+
+namespace {
+std::uint64_t numberOf(const localContextUTF8* scope) {
+    return localLiveObject::number(scope, localLiveObject::Kind::scope);
+}
+}  // namespace
+
+localVclGridScope::localVclGridScope(localContextUTF8* above) : context_(above) {
+    for (const auto* scope = context_.parent(); scope != nullptr; scope = scope->parent()) {
+        above_.emplace_back(scope, numberOf(scope));
+    }
+}
+
+bool localVclGridScope::stands() const {
+    return std::ranges::all_of(
+        above_, [](const auto& scope) { return numberOf(scope.first) == scope.second; });
+}
+
+localValueDescription& localVclGridScope::variable(std::u16string_view name) {
+    localContextUTF8* holder = nullptr;
+    localVariableEntry* found = context_.varFind(name, &holder);
+    if (found == nullptr || holder != &context_) {
+        found = &context_.varDeclare(name);
+    }
+    return *found->value;
+}
+
+bool localVclGridScope::evaluate(int& status, const std::u16string& expression, localSlot& value) {
+    status = localErrorTypeOK;
+    localInterpretatorUTF8::localPosition position = 0;
+    return localGuarded(status, "localVclGrid200123", [&] {
+        return localInterpretatorUTF8::scanStringGetExpressionAndEvaluete(
+            status, expression, position, value.asResult(), &context_, false);
+    });
+}

@@ -1,0 +1,260 @@
+// What stands in a grid's cells: asked of the rows and computed by formulas, and kept.
+#include <QDateTime>
+
+#include <algorithm>
+
+#include "grid/localVclGridScope.h"
+#include "localInterpretatorUTF8/text/localTrace.h"
+#include "localVCL/grid/localVclGrid200123.h"
+#include "localVCL/text/localVclText.h"
+
+// --- The scope
+
+// Declares what formulas may read in a new scope.
+void localVclGrid200123::scopeFill() {
+    scope_->variable(u"COLUMNNUMBER").setVal(-1.0);
+    scope_->variable(u"ROWNUMBER").setVal(-1.0);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        variableFill(i);
+    }
+}
+
+void localVclGrid200123::variableFill(std::size_t column) {
+    if (const std::u16string& id = columns[column]->id; !id.empty()) {
+        scope_->variable(id).setVal(static_cast<double>(column + 1));
+    }
+}
+
+void localVclGrid200123::scopeRenew(localContextUTF8* above) {
+    scope_ = std::make_shared<localVclGridScope>(above);
+    scopeFill();
+}
+
+localContextUTF8* localVclGrid200123::context() {
+    if (!scope_->stands()) {
+        scopeRenew(nullptr);
+    }
+    return &scope_->context();
+}
+
+// --- When texts are made
+
+bool localVclGrid200123::isInLanguage() const {
+    const auto isComputed = [](const auto& column) {
+        return !column->id.empty() || !column->formula.empty();
+    };
+    return rows_ == nullptr || rows_->needsTurn() || std::ranges::any_of(columns, isComputed);
+}
+
+void localVclGrid200123::refresh() {
+    request(rect());
+    update();
+}
+
+// Work of the language runs from the event loop alone, and never while a key or a paint is under
+// way: a formula may write lines, open a box, and close the grid's own window.
+void localVclGrid200123::request(const QRegion& region) {
+    if (!isInLanguage() || !isVisible()) {
+        return;
+    }
+    if (requested_.isEmpty()) {
+        QMetaObject::invokeMethod(
+            this, [this] { turnWork_.ask([this] { collectRequested(); }); }, Qt::QueuedConnection);
+    }
+    requested_ += region;
+}
+
+void localVclGrid200123::collectRequested() {
+    // A formula that waits for a person lets the grid be painted meanwhile, and be asked again.
+    if (isCollecting_) {
+        return;
+    }
+    const QPointer<localVclGrid200123> self(this);
+    const QRegion changed = collect(std::exchange(requested_, {}));
+    if (self) {
+        update(changed);
+        if (const QRegion again = std::exchange(requested_, {}); !again.isEmpty()) {
+            request(again);
+        }
+    }
+}
+
+// --- Making them
+
+// Gives what has changed. The grid may have gone when this returns.
+QRegion localVclGrid200123::collect(const QRegion& region) {
+    const Watch watch(*this);
+    const auto keptRows = rows_;
+    isCollecting_ = true;
+    const bool isWhole = region.boundingRect().contains(rect());
+    faultsBefore_ = faults_;
+    Collected collected;
+    if (isWhole) {
+        faults_.clear();
+    } else {
+        collected.shown = shown_;
+    }
+    for (unsigned row = 1; row < rowsInSight(); ++row) {
+        if (region.intersects(rowRectangle(row)) && !collectRow(row, region, collected)) {
+            break;
+        }
+    }
+    if (watch.isGone()) {
+        return {};
+    }
+    isCollecting_ = false;
+    if (!watch.stands()) {
+        requested_ += rect();
+        return {};
+    }
+    shown_ = std::move(collected.shown);
+    fresh_ += region;
+    // A button of a form reads the row that a person sees under the cursor.
+    if (rows_ != nullptr) {
+        rows_->enter(rowNumber(mCurRow));
+    }
+    return collected.changed;
+}
+
+// False when the grid is no longer what it was.
+bool localVclGrid200123::collectRow(unsigned row, const QRegion& region, Collected& collected) {
+    const Watch watch(*this);
+    const RowNumber number = rowNumber(row);
+    const bool isThere = enterRow(number);
+    QRect changed;
+    for (unsigned column = 0; watch.stands() && column <= lastColumn(); ++column) {
+        const QRect cell = cellRectangle(row, column);
+        if (!region.intersects(cell)) {
+            continue;
+        }
+        Shown now;
+        if (isThere) {
+            now.text = cellText(row, column);
+            if (watch.stands() && column < fixedCols) {
+                now.pixmap = cellPixmap(row, column);
+            }
+        }
+        if (!watch.stands()) {
+            return false;
+        }
+        const Cell key(number, columnOf(column));
+        const auto before = shown_.constFind(key);
+        if (before == shown_.cend() || before->text != now.text ||
+            before->pixmap.cacheKey() != now.pixmap.cacheKey()) {
+            changed |= cell;
+        }
+        collected.shown.insert(key, std::move(now));
+    }
+    collected.changed += changed;
+    return watch.stands();
+}
+
+// Makes a row the one that texts are made of. False when there is none, and when the grid is no
+// longer what it was.
+bool localVclGrid200123::enterRow(RowNumber row) {
+    if (rows_ != nullptr && !rows_->enter(row)) {
+        return false;
+    }
+    if (!isInLanguage()) {
+        return true;
+    }
+    localContextUTF8& scope = *context();
+    // Counted as on the screen: the first row behind the head has its row number there.
+    scope_->variable(u"ROWNUMBER").setVal(static_cast<double>(row + headRows));
+    if (rows_ != nullptr) {
+        rows_->putVariables(scope);
+    }
+    return computeFormulas(row);
+}
+
+// Each into the variable of its column, from left to right, so that a formula may use those before
+// it. False when the grid is no longer what it was.
+bool localVclGrid200123::computeFormulas(RowNumber row) {
+    const Watch watch(*this);
+    const auto scope = scope_;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const std::u16string id = columns[i]->id;
+        const std::u16string formula = columns[i]->formula;
+        if (id.empty() || formula.empty()) {
+            continue;
+        }
+        scope->variable(u"COLUMNNUMBER").setVal(static_cast<double>(i + 1));
+        int status = localErrorTypeOK;
+        localSlot value;
+        const bool isComputed = scope->evaluate(status, formula, value);
+        if (isComputed) {
+            scope->variable(id).assign(*value);
+        } else {
+            scope->variable(id).setVal(localText());
+        }
+        if (watch.stands() && !isComputed) {
+            tellFault(Cell(row, static_cast<int>(i)), status);
+        }
+        if (!watch.stands()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// A fault is told when it comes to stand in view, and not at each paint.
+void localVclGrid200123::tellFault(const Cell& cell, int status) {
+    faults_.insert(cell, status);
+    if (faultsBefore_.value(cell, localErrorTypeOK) != status) {
+        const QString now =
+            QDateTime::currentDateTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+        traceLine({localStatusWords(status), u" ", localVclText(now)}, "localVclGrid200123");
+    }
+}
+
+// --- What stands in a cell
+
+QString localVclGrid200123::cellText(unsigned row, unsigned column) {
+    const int number = columnOf(column);
+    if (number >= static_cast<int>(columns.size())) {
+        return tr(" error ");
+    }
+    // While texts are collected, the row is the one they are collected of.
+    if (!isCollecting_ && !enterRow(rowNumber(row))) {
+        return {};
+    }
+    return rowText(rowNumber(row), number);
+}
+
+QPixmap localVclGrid200123::cellPixmap(unsigned row, unsigned column) {
+    const bool isHead = rows_ != nullptr && column < fixedCols;
+    if (!isHead || (!isCollecting_ && !enterRow(rowNumber(row)))) {
+        return {};
+    }
+    return rows_->pixmap();
+}
+
+QString localVclGrid200123::rowText(RowNumber row, int column) {
+    if (column == rowHead && rows_ != nullptr) {
+        return rows_->headText();
+    }
+    if (column != rowHead) {
+        const localVclGridColumn& shown = *columns[static_cast<std::size_t>(column)];
+        const std::u16string expression = shown.id.empty() ? shown.formula : shown.id;
+        if (!expression.empty()) {
+            int status = localErrorTypeOK;
+            return evaluatedText(status, column, expression);
+        }
+        if (rows_ != nullptr) {
+            return rows_->text(shown);
+        }
+    }
+    constexpr int places = 3;
+    return QStringLiteral(" %1-%2")
+        .arg(column + static_cast<int>(fixedCols), places)
+        .arg(row + headRows, places);
+}
+
+QString localVclGrid200123::evaluatedText(int& status, int column,
+                                          const std::u16string& expression) {
+    const auto scope = scope_;
+    scope->variable(u"COLUMNNUMBER").setVal(static_cast<double>(column + 1));
+    localSlot value;
+    return scope->evaluate(status, expression, value) ? localVclQString(value->toString())
+                                                      : QString();
+}
