@@ -65,6 +65,7 @@ void localVclGrid200123::clearColumns() {
     shown_.clear();
     faults_.clear();
     blockStart_.reset();
+    firstCol = 0;
     ++layoutNumber_;
 }
 

@@ -92,7 +92,6 @@ void localVclGrid200123::layoutApply(const localValueList& grid) {
             }
         }
     }
-    firstCol = 0;
     setCurrentCell(0, 0);
     reposition();
     refresh();

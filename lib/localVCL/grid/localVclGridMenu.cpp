@@ -62,7 +62,8 @@ bool localVclGrid200123::event(QEvent* event) {
 QString localVclGrid200123::cutTextAt(const QPoint& place) {
     const auto row = static_cast<unsigned>(place.y() / rowStep());
     const unsigned column = columnAt(place.x());
-    if (row == 0 || column == 0) {
+    const bool isHead = place.x() < fixedColWidth;
+    if (row == 0 || (column == 0 && !isHead)) {
         return {};
     }
     const QString text = shown_.value(Cell(rowNumber(row), columnOf(column))).text;

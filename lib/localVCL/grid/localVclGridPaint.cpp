@@ -94,7 +94,7 @@ void localVclGrid200123::paintCell(QPainter& painter, unsigned row, unsigned col
             painter.drawPixmap(place, shown->pixmap);
         }
         painter.setPen(colors.color(QPalette::WindowText));
-        paintText(painter, text, cell, Qt::AlignLeft);
+        paintText(painter, text, cell, Qt::AlignLeft, Qt::ElideLeft);
         return;
     }
     const int alignment = columns[static_cast<std::size_t>(columnOf(column))]->alignment;
@@ -119,12 +119,12 @@ void localVclGrid200123::paintCell(QPainter& painter, unsigned row, unsigned col
 }
 
 void localVclGrid200123::paintText(QPainter& painter, const QString& text, const QRect& cell,
-                                   int alignment) {
+                                   int alignment, Qt::TextElideMode cut) {
     if (text.isEmpty()) {
         return;
     }
     const QRect place = cell.adjusted(cellMargin, 0, -cellMargin, 0);
-    const auto& prepared = prepared_->text(text, place.width());
+    const auto& prepared = prepared_->text(text, place.width(), cut);
     const QRect laid = QStyle::alignedRect(
         Qt::LeftToRight, (Qt::Alignment(alignment) & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter,
         prepared.size, place);

@@ -21,16 +21,20 @@ QString onOneLine(const QString& text) {
 
 }  // namespace
 
-const localVclGridPrepared::Text& localVclGridPrepared::text(const QString& text, int room) {
-    const QPair<QString, int> key(text, room);
+const localVclGridPrepared::Text& localVclGridPrepared::text(const QString& text, int room,
+                                                             Qt::TextElideMode cut) {
+    const std::pair key(text, std::pair(room, static_cast<int>(cut)));
     if (const Text* const kept = texts_.object(key)) {
         return *kept;
     }
     const QFontMetrics metrics(font_);
-    const QString line = onOneLine(text.left(longest));
+    QString line = onOneLine(text.left(longest));
+    if (text.size() > longest) {
+        line += u'…';
+    }
     QString shown = line;
-    if (text.size() > longest || metrics.horizontalAdvance(line) > room) {
-        shown = metrics.elidedText(line + u'…', Qt::ElideRight, std::max(room, 0));
+    if (metrics.horizontalAdvance(line) > room) {
+        shown = metrics.elidedText(line, cut, std::max(room, 0));
         if (metrics.horizontalAdvance(shown) > room) {
             shown.clear();
         }

@@ -4,9 +4,10 @@
 
 #include <QCache>
 #include <QFont>
-#include <QPair>
 #include <QStaticText>
 #include <QString>
+
+#include <utility>
 
 class localVclGridPrepared {
 public:
@@ -16,8 +17,9 @@ public:
         bool isCut = false;  // was longer than its room, and ends in "..."
     };
 
-    // A text on one line, no wider than so many pixels. Holds until the next one is asked for.
-    const Text& text(const QString& text, int room);
+    // A text on one line, no wider than so many pixels: its end is cut, or where it is the end
+    // that tells most, its start. Holds until the next one is asked for.
+    const Text& text(const QString& text, int room, Qt::TextElideMode cut = Qt::ElideRight);
     // The font of what is asked for from now on.
     void setFont(const QFont& font);
 
@@ -28,5 +30,5 @@ private:
     static constexpr qsizetype longest = 1000;
 
     QFont font_;
-    QCache<QPair<QString, int>, Text> texts_{mostKept};
+    QCache<std::pair<QString, std::pair<int, int>>, Text> texts_{mostKept};
 };

@@ -1,5 +1,7 @@
 #include "grid/localVclGridScope.h"
 
+#include <algorithm>
+
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localGuard.h"
 
@@ -20,11 +22,11 @@ bool localVclGridScope::stands() const {
         above_, [](const auto& scope) { return numberOf(scope.first) == scope.second; });
 }
 
-localValueDescription& localVclGridScope::variable(std::u16string_view name) {
+localValueDescription& localVclOwnVariable(localContextUTF8& scope, std::u16string_view name) {
     localContextUTF8* holder = nullptr;
-    localVariableEntry* found = context_.varFind(name, &holder);
-    if (found == nullptr || holder != &context_) {
-        found = &context_.varDeclare(name);
+    localVariableEntry* found = scope.varFind(name, &holder);
+    if (found == nullptr || holder != &scope) {
+        found = &scope.varDeclare(name);
     }
     return *found->value;
 }

@@ -10,6 +10,9 @@
 
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 
+// The scope's own variable of that name, made when there is none. Holds until the next one is made.
+localValueDescription& localVclOwnVariable(localContextUTF8& scope, std::u16string_view name);
+
 class localVclGridScope {
 public:
     // Null means the global scope.
@@ -18,9 +21,9 @@ public:
     // Whether all scopes above stand; the scope may be used as long as they do.
     bool stands() const;
     localContextUTF8& context() { return context_; }
-    // The scope's own variable of that name, made when there is none. Holds until the next one is
-    // made.
-    localValueDescription& variable(std::u16string_view name);
+    localValueDescription& variable(std::u16string_view name) {
+        return localVclOwnVariable(context_, name);
+    }
     // False with a status for what is no expression or cannot be computed.
     bool evaluate(int& status, const std::u16string& expression, localSlot& value);
 

@@ -73,9 +73,24 @@ void localVclGrid200123::collectRequested() {
     const QRegion changed = collect(std::exchange(requested_, {}));
     if (self) {
         update(changed);
+        cursorToRows();
         if (const QRegion again = std::exchange(requested_, {}); !again.isEmpty()) {
             request(again);
         }
+    }
+}
+
+// Rows may have become fewer.
+void localVclGrid200123::cursorToRows() {
+    if (rows_ == nullptr || mCurRow < headRows || hasRow(mCurRow)) {
+        return;
+    }
+    if (rows_->count() > firstRow) {
+        setCurrentCell(static_cast<unsigned>(rows_->count() - 1 - firstRow) + headRows, mCurCol);
+    } else if (rows_->count() > 0) {
+        goToEnd();
+    } else if (firstRow > 0 || mCurRow > headRows) {
+        goToStart();
     }
 }
 
@@ -112,6 +127,7 @@ QRegion localVclGrid200123::collect(const QRegion& region) {
     // A button of a form reads the row that a person sees under the cursor.
     if (rows_ != nullptr) {
         rows_->enter(rowNumber(mCurRow));
+        rows_->leave();
     }
     return collected.changed;
 }
@@ -238,23 +254,27 @@ QString localVclGrid200123::rowText(RowNumber row, int column) {
         const std::u16string expression = shown.id.empty() ? shown.formula : shown.id;
         if (!expression.empty()) {
             int status = localErrorTypeOK;
-            return evaluatedText(status, column, expression);
+            return evaluatedText(status, column, expression).value_or(QString());
         }
         if (rows_ != nullptr) {
             return rows_->text(shown);
         }
     }
-    constexpr int places = 3;
-    return QStringLiteral(" %1-%2")
-        .arg(column + static_cast<int>(fixedCols), places)
-        .arg(row + headRows, places);
+    return placeText(column + static_cast<int>(fixedCols), row + headRows);
 }
 
-QString localVclGrid200123::evaluatedText(int& status, int column,
-                                          const std::u16string& expression) {
+QString localVclGrid200123::placeText(RowNumber column, RowNumber row) {
+    constexpr int places = 3;
+    return QStringLiteral(" %1-%2").arg(column, places).arg(row, places);
+}
+
+std::optional<QString> localVclGrid200123::evaluatedText(int& status, int column,
+                                                         const std::u16string& expression) {
     const auto scope = scope_;
     scope->variable(u"COLUMNNUMBER").setVal(static_cast<double>(column + 1));
     localSlot value;
-    return scope->evaluate(status, expression, value) ? localVclQString(value->toString())
-                                                      : QString();
+    if (!scope->evaluate(status, expression, value)) {
+        return std::nullopt;
+    }
+    return localVclQString(value->toString());
 }

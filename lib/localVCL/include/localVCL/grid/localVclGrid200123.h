@@ -123,9 +123,11 @@ protected:
     unsigned lastColumn() const;
     // The text of a column of a row that has been entered; -1 is the row head.
     virtual QString rowText(RowNumber row, int column);
-    // The text of an expression in the grid's scope; empty with a status when it cannot be
+    // The text of an expression in the grid's scope; nothing, with a status, when it cannot be
     // computed. The grid may have gone behind it.
-    QString evaluatedText(int& status, int column, const std::u16string& expression);
+    std::optional<QString> evaluatedText(int& status, int column, const std::u16string& expression);
+    // What a cell without any text shows: its place.
+    static QString placeText(RowNumber column, RowNumber row);
     // Takes the layout that stands under "grid". Under the turn.
     virtual void layoutApply(const localValueList& grid);
     void clearColumns();
@@ -212,6 +214,7 @@ private:
     bool isInLanguage() const;
     void scopeFill();
     void scopeRenew(localContextUTF8* above);
+    void cursorToRows();
     void variableFill(std::size_t column);
     void request(const QRegion& region);
     void collectRequested();
@@ -226,7 +229,8 @@ private:
     // Painting (localVclGridPaint.cpp)
     void paintLines(QPainter& painter, const QRect& dirty) const;
     void paintCell(QPainter& painter, unsigned row, unsigned column, const QRect& cell);
-    void paintText(QPainter& painter, const QString& text, const QRect& cell, int alignment);
+    void paintText(QPainter& painter, const QString& text, const QRect& cell, int alignment,
+                   Qt::TextElideMode cut = Qt::ElideRight);
     void paintSearchText(QPainter& painter);
     // The text of a cell in full when it is shown cut, else empty.
     QString cutTextAt(const QPoint& place);

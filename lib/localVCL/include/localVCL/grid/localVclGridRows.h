@@ -25,6 +25,8 @@ public:
     // Makes a row the one that the operations below tell of. False when there is no such row, which
     // is then shown empty.
     virtual bool enter(Number row) = 0;
+    // Lets go of the row: nothing of it is kept behind this.
+    virtual void leave() {}
     // The row's cell of a column that has neither a variable nor a formula.
     virtual QString text(const localVclGridColumn&) { return {}; }
     // What stands in front of the row.
