@@ -206,7 +206,11 @@ void localVclGrid200123::scrollRowUp() {
     }
 }
 
+// A grid without columns has no cell that the cursor could go to.
 bool localVclGrid200123::hasRow(unsigned row) const {
+    if (columns.empty()) {
+        return false;
+    }
     return rows_ == nullptr || rowNumber(row) < rows_->count();
 }
 
@@ -215,5 +219,6 @@ bool localVclGrid200123::find(const QString& text) {
 }
 
 void localVclGrid200123::cellEdit(unsigned row, unsigned column) {
-    traceLine(localVclText(QStringLiteral("cellEdit(%1, %2)").arg(row).arg(column)), "cellEdit");
+    traceLine(localVclText(QStringLiteral("cellEdit(%1, %2) from").arg(row).arg(column)),
+              "cellEdit");
 }

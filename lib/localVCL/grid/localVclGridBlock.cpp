@@ -40,18 +40,21 @@ QString tabSeparated(QStringList texts) {
 
 }  // namespace
 
-// Before the key acts: the first one with Shift begins a block at the cursor, one without ends it.
-void localVclGrid200123::blockKey(const QKeyEvent& event) {
-    if (!movesTheCursor(event.key())) {
-        return;
-    }
-    if (!event.modifiers().testFlag(Qt::ShiftModifier)) {
+// Before the cursor moves: the first step with Shift begins a block there, one without ends it.
+void localVclGrid200123::blockStep(Qt::KeyboardModifiers modifiers) {
+    if (!modifiers.testFlag(Qt::ShiftModifier)) {
         clearBlock();
     } else {
         if (!blockStart_) {
             blockStart_ = Cell(rowNumber(mCurRow), columnOf(mCurCol));
         }
         update();
+    }
+}
+
+void localVclGrid200123::blockKey(const QKeyEvent& event) {
+    if (movesTheCursor(event.key())) {
+        blockStep(event.modifiers());
     }
 }
 
@@ -71,7 +74,11 @@ void localVclGrid200123::copy() {
     const Cell end(rowNumber(mCurRow), columnOf(mCurCol));
     const Cell start = blockStart_.value_or(end);
     if (isInLanguage()) {
-        copyWork_.ask([this, start, end] { copyCells(start, end); });
+        const auto whenFree = [this, start, end] {
+            copyWork_.ask([this, start, end] { copyCells(start, end); });
+        };
+        // As all work of the language, never while a key is under way.
+        QMetaObject::invokeMethod(this, whenFree, Qt::QueuedConnection);
     } else {
         copyCells(start, end);
     }

@@ -201,6 +201,7 @@ void localVclGrid200123::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     const auto row = static_cast<unsigned>(std::max(0, at.y() / rowStep()));
     if (row != 0 && hasRow(row)) {
+        blockStep(event->modifiers());
         const unsigned column = columnAt(at.x());
         setCurrentCell(row, column == 0 ? mCurCol : column);
     }
@@ -225,7 +226,7 @@ unsigned localVclGrid200123::columnAt(int x) const {
 void localVclGrid200123::wheelEvent(QWheelEvent* event) {
     constexpr int notch = 120;
     wheel_ += event->angleDelta();
-    const QPoint notches = wheel_ / notch;
+    const QPoint notches(wheel_.x() / notch, wheel_.y() / notch);
     wheel_ -= notches * notch;
     if (notches.y() != 0) {
         scrollRows(-notches.y() * QApplication::wheelScrollLines());

@@ -82,7 +82,7 @@ void localVclGrid200123::collectRequested() {
 
 // Rows may have become fewer.
 void localVclGrid200123::cursorToRows() {
-    if (rows_ == nullptr || mCurRow < headRows || hasRow(mCurRow)) {
+    if (rows_ == nullptr || columns.empty() || mCurRow < headRows || hasRow(mCurRow)) {
         return;
     }
     if (rows_->count() > firstRow) {
@@ -215,8 +215,9 @@ bool localVclGrid200123::computeFormulas(RowNumber row) {
 
 // A fault is told when it comes to stand in view, and not at each paint.
 void localVclGrid200123::tellFault(const Cell& cell, int status) {
+    const int before = faults_.value(cell, faultsBefore_.value(cell, localErrorTypeOK));
     faults_.insert(cell, status);
-    if (faultsBefore_.value(cell, localErrorTypeOK) != status) {
+    if (before != status) {
         const QString now =
             QDateTime::currentDateTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
         traceLine({localStatusWords(status), u" ", localVclText(now)}, "localVclGrid200123");

@@ -207,6 +207,7 @@ private:
 
     // The marked block (localVclGridBlock.cpp)
     void blockKey(const QKeyEvent& event);
+    void blockStep(Qt::KeyboardModifiers modifiers);
     bool isMarked(const Cell& cell) const;
     void copyCells(const Cell& one, const Cell& other);
 
