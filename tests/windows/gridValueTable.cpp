@@ -10,9 +10,11 @@
 #include "gridTest.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
+#include "localInterpretatorUTF8/json/localJsonValue.h"
 #include "localVCL/grid/localVclTestWidgetValueTable200617.h"
 #include "localVCL/window/localVclWindow.h"
 
+using consoleTest::json;
 using gridTest::column;
 using gridTest::keys;
 using gridTest::settle;
@@ -74,10 +76,10 @@ class gridValueTable : public consoleTest::test {
         return shown;
     }
     // A grid over a variable of the console, in a window as the program shows it.
-    QPointer<liveGrid> ofVariable(const QString& layout) {
+    QPointer<liveGrid> ofVariable(const QByteArray& layout) {
         const localTurn::Hold turn;
         auto* const shown = new liveGrid(localValueDescription(), console_->context());
-        shown->layoutReconfigureByJson(text(layout.toStdU16String()));
+        shown->layoutReconfigureByJson(text(QString::fromUtf8(layout).toStdU16String()));
         shown->resize(400, 6 * rowStep);
         localVclWindowParameters parameters;
         parameters.title = "Таблица";
@@ -106,8 +108,8 @@ class gridValueTable : public consoleTest::test {
         return localValueTable::counterStaticTotal;
     }
 
-    const QString layout_ =
-        R"({"grid":{"columns":[{"id":"A","caption":"Первая","width":80}],"dataSource":{"varName":"t"}}})";
+    const QByteArray layout_ = json(
+        "{'grid':{'columns':[{'id':'A','caption':'Первая','width':80}],'dataSource':{'varName':'t'}}}");
 
 protected slots:
     void cleanup() {
@@ -199,8 +201,7 @@ private slots:
         QTRY_VERIFY(answer.given());
         QVERIFY2(text.startsWith("Grid Layout|{"), qPrintable(text));
         QVERIFY(text.contains("\"formula\": \"Цена*Количество\""));
-        QVERIFY(output.text().startsWith("this->dataSousceId=[ 0]  func: mousePressEvent") ||
-                output.text().startsWith("this->dataSousceId=[ 1]  func: mousePressEvent"));
+        QVERIFY(output.text().startsWith("this->dataSousceId=[ 1]  func: mousePressEvent"));
         QCOMPARE(shown->columnsCount(), std::size_t(4));
     }
 
@@ -234,10 +235,6 @@ private slots:
         shown->columns[0]->caption = "кавычки \" и \\ и [скобки] {}";
         shown->columns[0]->description = "две\nстроки";
         localValueDescription layout = shown->layoutAsValueListGet();
-        const auto texts = [](const localValueDescription& value) {
-            return valueListToJson(*localValueList::of(value)).string().size();
-        };
-        QVERIFY(texts(layout) > 0);
         QVERIFY(shown->layoutReconfigureByJson(layout));
         QCOMPARE(shown->columns[0]->caption, QString("кавычки \" и \\ и [скобки] {}"));
         QCOMPARE(shown->columns[0]->description, QString("две\nстроки"));
@@ -307,6 +304,7 @@ private slots:
         QTRY_VERIFY(answer.given());
         QCOMPARE(shown->columnsCount(), std::size_t(1));
         QCOMPARE(shownText(*shown, 2, 1), QString("20"));
+        shown->activateWindow();
         QTRY_COMPARE(QApplication::focusWidget(), shown.get());
         QVERIFY(host_.reports.empty());
     }
@@ -345,7 +343,7 @@ private slots:
         enter("t.ROWADD()");
         enter("t.VALUESET(1,1,\"abc\")");
         enter("t.VALUESET(1,2,15)");
-        auto shown = ofVariable(R"({"grid":{"dataSource":{"varName":"t"}}})");
+        auto shown = ofVariable(json("{'grid':{'dataSource':{'varName':'t'}}}"));
         QCOMPARE(shown->variableName(), u"t");
         QCOMPARE(shown->columnsCount(), std::size_t(2));
         QCOMPARE(shown->columns[0]->caption, QString("A"));
@@ -362,7 +360,7 @@ private slots:
 
     void variableWithoutATableGetsOne() {
         start();
-        auto shown = ofVariable(R"({"grid":{"dataSource":{"varName":"t"}}})");
+        auto shown = ofVariable(json("{'grid':{'dataSource':{'varName':'t'}}}"));
         QCOMPARE(shown->columnsCount(), std::size_t(1));
         QCOMPARE(shown->columns[0]->caption, QString("КОЛОНКА1"));
         QCOMPARE(outputOf("? t.COLUMNSCOUNT()"), QStringList("1"));
@@ -489,57 +487,54 @@ private slots:
         enter("t.ROWADD()");
         consoleTest::write("f.prg", "FUNCTION drop()\nt=1;\nRETURN 3;\nENDFUNCTION;\n");
         enter("DO f.prg");
-        auto shown = ofVariable(
-            R"({"grid":{"columns":[{"id":"X","formula":"drop()"
-    },{"id":"A"}],"dataSource":{"varName":"t"}
-}
-})");
+        auto shown =
+            ofVariable(json("{'grid':{'columns':[{'id':'X','formula':'drop()'},{'id':'A'}],"
+                            "'dataSource':{'varName':'t'}}}"));
         QCOMPARE(onScreen(*shown).left(2), QString("10"));
-shown->refresh();
-settle();
-QCOMPARE(onScreen(*shown), QString("00000"));
-}
+        shown->refresh();
+        settle();
+        QCOMPARE(onScreen(*shown), QString("00000"));
+    }
 
-// The grid keeps a table that was given to it, and lets go of it at its end.
-void tableGivenIsKept() {
-    auto shown = over(3, 8);
-    const auto before = tables();
-    {
-        const localTurn::Hold turn;
-        table_.reset();
+    // The grid keeps a table that was given to it, and lets go of it at its end.
+    void tableGivenIsKept() {
+        auto shown = over(3, 8);
+        const auto before = tables();
+        {
+            const localTurn::Hold turn;
+            table_.reset();
+        }
+        QCOMPARE(tables(), before);
+        shown->refresh();
+        settle();
+        QCOMPARE(shownText(*shown, 2, 1), QString("Товар 2"));
+        shown.reset();
+        QCOMPARE(tables(), before - 1);
     }
-    QCOMPARE(tables(), before);
-    shown->refresh();
-    settle();
-    QCOMPARE(shownText(*shown, 2, 1), QString("Товар 2"));
-    shown.reset();
-    QCOMPARE(tables(), before - 1);
-}
 
-// Objects in cells are not kept by the grid's variables.
-void objectsOfCellsAreLetGo() {
-    auto shown = over(2, 8);
-    const auto lists = [] {
-        const localTurn::Hold turn;
-        return localValueList::counterStaticTotal;
-    };
-    const auto before = lists();
-    {
-        const localTurn::Hold turn;
-        table().cell(0, 0).objectBind(new localValueList, localValueList::classDeclaration());
-        table().cell(1, 0).objectBind(new localValueList, localValueList::classDeclaration());
+    // Objects in cells are not kept by the grid's variables.
+    void objectsOfCellsAreLetGo() {
+        auto shown = over(2, 8);
+        const auto lists = [] {
+            const localTurn::Hold turn;
+            return localValueList::counterStaticTotal;
+        };
+        const auto before = lists();
+        {
+            const localTurn::Hold turn;
+            table().cell(0, 0).objectBind(new localValueList, localValueList::classDeclaration());
+            table().cell(1, 0).objectBind(new localValueList, localValueList::classDeclaration());
+        }
+        shown->refresh();
+        settle();
+        QVERIFY(shownText(*shown, 1, 1).startsWith("Список значений"));
+        {
+            const localTurn::Hold turn;
+            table().clear();
+        }
+        QCOMPARE(lists(), before);
     }
-    shown->refresh();
-    settle();
-    QVERIFY(shownText(*shown, 1, 1).startsWith("Список значений"));
-    {
-        const localTurn::Hold turn;
-        table().clear();
-    }
-    QCOMPARE(lists(), before);
-}
-}
-;
+};
 
 QTEST_MAIN(gridValueTable)
 #include "gridValueTable.moc"

@@ -1,5 +1,6 @@
 // Windows beside a program under DEBUG: one thread at a time is in the language, and nobody hangs.
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QDialog>
 #include <QEventLoop>
 #include <QPainter>
@@ -19,6 +20,7 @@
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
 #include "localVCL/dialog/localVclListDialog.h"
+#include "localVCL/grid/localVclTestWidgetValueTable200617.h"
 #include "localVCL/window/localVclOnWindowThread.h"
 #include "localVCL/window/localVclTurn.h"
 #include "windowTest.h"
@@ -288,6 +290,100 @@ private slots:
         QTRY_VERIFY(formula.told > 0);
         QVERIFY(formula.fresh > before);
         QCOMPARE(formula.wrong, 0);
+    }
+
+    void gridShowsWhatItShowedAndComesBack() {
+        std::unique_ptr<localVclTestWidgetValueTable200617> grid;
+        localValueDescription value;
+        const auto setCell = [&](double number) {
+            const localTurn::Hold turn;
+            localValueTable::of(value)->cell(1, 0).setVal(number);
+        };
+        {
+            const localTurn::Hold turn;
+            auto* const table = new localValueTable;
+            value.objectBind(table, localValueTable::classDeclaration());
+            table->columnAdd(u"A");
+            for (int row = 0; row < 40; ++row) {
+                table->rowAdd();
+            }
+            grid = std::make_unique<localVclTestWidgetValueTable200617>(value, shown().context());
+            for (const char16_t* const formula : {u"A*1", u"fib(5)"}) {
+                auto column = std::make_unique<localVclGridColumn>();
+                column->formula = formula;
+                column->width = 100;
+                grid->addColumn(std::move(column));
+            }
+            table->cell(1, 0).setVal(1111.0);
+        }
+        grid->resize(300, 200);
+        grid->show();
+        QVERIFY(QTest::qWaitForWindowActive(grid.get()));
+        const auto cell = [&] { return grid->grab(grid->cellRectangle(2, 1)).toImage(); };
+        setCell(2222);
+        grid->refresh();
+        QCoreApplication::processEvents();
+        const QImage before = cell();
+        setCell(1111);
+        grid->refresh();
+        QCoreApplication::processEvents();
+        const QImage after = cell();
+        QVERIFY(before != after);
+        setCell(2222);
+        grid->refresh();
+        QTRY_VERIFY(cell() == before);
+
+        QVERIFY(workLong());
+        // The program has the turn: nobody else may touch the table, and here nobody looks at it.
+        localValueTable::of(value)->cell(1, 0).num = 1111.0;
+        grid->refresh();
+        for (int i = 0; i < 30; ++i) {
+            QTest::keyClick(grid.get(), Qt::Key_Down);
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(grid->currentRow(), grid->visibleRows() - 1);
+        for (int i = 0; i < 60; ++i) {
+            QTest::keyClick(grid.get(), Qt::Key_Up);
+        }
+        QCoreApplication::processEvents();
+        QTest::keyClick(grid.get(), Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(grid.get(), Qt::Key_Up);
+        QTest::keyClick(grid.get(), Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(grid.get(), Qt::Key_F12);
+        QCoreApplication::processEvents();
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        QVERIFY(cell() == before);
+        const dialogAnswer answer([](QWidget* dialog) { static_cast<QDialog*>(dialog)->reject(); });
+        QVERIFY(endLong());
+        QTRY_VERIFY(answer.given());
+        QTRY_VERIFY(cell() == after);
+        QCOMPARE(QApplication::clipboard()->text(), QString("0"));
+        grid.reset();
+        const localTurn::Hold turn;
+        value.reset();
+    }
+
+    void gridThatGoesWhileAProgramWorks() {
+        const auto counts = [] {
+            const localTurn::Hold turn;
+            return std::pair(localValueTable::counterStaticTotal,
+                             localContextUTF8::counterStaticTotal);
+        };
+        const auto before = counts();
+        std::unique_ptr<localVclTestWidgetValueTable200617> grid;
+        {
+            const localTurn::Hold turn;
+            localValueDescription value;
+            value.objectBind(new localValueTable, localValueTable::classDeclaration());
+            grid = std::make_unique<localVclTestWidgetValueTable200617>(value, shown().context());
+        }
+        grid->show();
+        QVERIFY(workLong());
+        grid->refresh();
+        QCoreApplication::processEvents();
+        grid.reset();
+        QVERIFY(endLong());
+        QTRY_COMPARE(counts(), before);
     }
 
     // --- windows that are used while a program works

@@ -127,7 +127,7 @@ QRegion localVclGrid200123::collect(const QRegion& region) {
     // A button of a form reads the row that a person sees under the cursor.
     if (rows_ != nullptr) {
         rows_->enter(rowNumber(mCurRow));
-        rows_->leave();
+        leaveRow();
     }
     return collected.changed;
 }
@@ -183,6 +183,12 @@ bool localVclGrid200123::enterRow(RowNumber row) {
     return computeFormulas(row);
 }
 
+void localVclGrid200123::leaveRow() {
+    if (rows_ != nullptr) {
+        rows_->leave(isInLanguage() ? context() : nullptr);
+    }
+}
+
 // Each into the variable of its column, from left to right, so that a formula may use those before
 // it. False when the grid is no longer what it was.
 bool localVclGrid200123::computeFormulas(RowNumber row) {
@@ -232,18 +238,27 @@ QString localVclGrid200123::cellText(unsigned row, unsigned column) {
         return tr(" error ");
     }
     // While texts are collected, the row is the one they are collected of.
-    if (!isCollecting_ && !enterRow(rowNumber(row))) {
-        return {};
+    if (isCollecting_) {
+        return rowText(rowNumber(row), number);
     }
-    return rowText(rowNumber(row), number);
+    const Watch watch(*this);
+    const QString text = enterRow(rowNumber(row)) ? rowText(rowNumber(row), number) : QString();
+    if (watch.stands()) {
+        leaveRow();
+    }
+    return text;
 }
 
 QPixmap localVclGrid200123::cellPixmap(unsigned row, unsigned column) {
-    const bool isHead = rows_ != nullptr && column < fixedCols;
-    if (!isHead || (!isCollecting_ && !enterRow(rowNumber(row)))) {
+    if (rows_ == nullptr || column >= fixedCols) {
         return {};
     }
-    return rows_->pixmap();
+    if (isCollecting_) {
+        return rows_->pixmap();
+    }
+    const QPixmap pixmap = rows_->enter(rowNumber(row)) ? rows_->pixmap() : QPixmap();
+    rows_->leave(nullptr);
+    return pixmap;
 }
 
 QString localVclGrid200123::rowText(RowNumber row, int column) {

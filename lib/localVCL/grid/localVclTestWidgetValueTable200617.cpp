@@ -31,13 +31,16 @@ const std::u16string& localVclTestWidgetValueTable200617::variableName() const {
     return tableRows_->variableName();
 }
 
+std::int64_t localVclTestWidgetValueTable200617::dataSousceId() const {
+    const RowNumber row = rowNumber(currentRow());
+    return row >= 0 && row < tableRows_->count() ? row + 1 : 0;
+}
+
 void localVclTestWidgetValueTable200617::setCurrentCell(unsigned row, unsigned column) {
     localVclGrid200123::setCurrentCell(row, column);
-    const RowNumber number = rowNumber(row);
-    dataSousceId_ = number >= 0 && number < tableRows_->count() ? number + 1 : 0;
-    if (const localTurn::Attempt turn; turn) {
-        tableRows_->enter(number);
-        tableRows_->leave();
+    if (const localTurn::Attempt turn; turn && !isCollecting()) {
+        tableRows_->enter(rowNumber(row));
+        tableRows_->leave(nullptr);
     }
     emit dataSousceIdChanged();
 }
@@ -63,7 +66,7 @@ QString localVclTestWidgetValueTable200617::rowText(RowNumber row, int column) {
 }
 
 void localVclTestWidgetValueTable200617::mousePressEvent(QMouseEvent* event) {
-    traceLine({u"this->dataSousceId=[ ", localVclText(QString::number(dataSousceId_)), u"] "},
+    traceLine({u"this->dataSousceId=[ ", localVclText(QString::number(dataSousceId())), u"] "},
               "mousePressEvent");
     if (event->button() == Qt::RightButton) {
         openLayoutDialog();

@@ -20,7 +20,7 @@ std::u16string nameOfColumn(const localValueTable& table, std::size_t number) {
 localVclValueTableRows::localVclValueTableRows(const localValueDescription& table)
     : kept_(std::make_unique<localValueDescription>(table)) {
     enter(0);
-    leave();
+    leave(nullptr);
 }
 
 localVclValueTableRows::~localVclValueTableRows() {
@@ -37,7 +37,7 @@ void localVclValueTableRows::setVariable(const std::u16string& name,
     variableName_ = name;
     scope_ = std::move(scope);
     enter(0);
-    leave();
+    leave(nullptr);
 }
 
 localValueTable* localVclValueTableRows::table() const {
@@ -66,7 +66,13 @@ bool localVclValueTableRows::enter(Number row) {
     return true;
 }
 
-void localVclValueTableRows::leave() {
+void localVclValueTableRows::leave(localContextUTF8* scope) {
+    if (const localValueTable* const shown = localValueTable::of(entered_);
+        shown != nullptr && scope != nullptr) {
+        for (std::size_t column = 1; column <= shown->columnsCount(); ++column) {
+            localVclOwnVariable(*scope, nameOfColumn(*shown, column)).setVal(localText());
+        }
+    }
     entered_.reset();
 }
 

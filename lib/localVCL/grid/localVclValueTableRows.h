@@ -31,7 +31,7 @@ public:
     bool needsTurn() const override { return true; }
     Number count() const override { return count_; }
     bool enter(Number row) override;
-    void leave() override;
+    void leave(localContextUTF8* scope) override;
     QString headText() override;
     void putVariables(localContextUTF8& scope) override;
 

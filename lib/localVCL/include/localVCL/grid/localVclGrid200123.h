@@ -119,6 +119,10 @@ protected:
     localContextUTF8* context();
 
     int rowStep() const { return rowHeight + rowGap; }
+    // Whether there is anything in a row of the screen.
+    bool hasRow(unsigned row) const;
+    // Whether texts are being made: the rows must not be led elsewhere meanwhile.
+    bool isCollecting() const { return isCollecting_; }
     // The number of the last column on the screen that there is; fixedCols - 1 without columns.
     unsigned lastColumn() const;
     // The text of a column of a row that has been entered; -1 is the row head.
@@ -191,7 +195,6 @@ private:
         return {0, rowStep() * static_cast<int>(row), width(), rowStep()};
     }
     unsigned rowsInSight() const { return static_cast<unsigned>(height() / rowStep()) + 1; }
-    bool hasRow(unsigned row) const;
 
     void sizesByFont();
     int scaled(int pixels) const;
@@ -222,6 +225,7 @@ private:
     QRegion collect(const QRegion& region);
     bool collectRow(unsigned row, const QRegion& region, Collected& collected);
     bool enterRow(RowNumber row);
+    void leaveRow();
     bool computeFormulas(RowNumber row);
     void tellFault(const Cell& cell, int status);
 

@@ -25,8 +25,9 @@ public:
     // Makes a row the one that the operations below tell of. False when there is no such row, which
     // is then shown empty.
     virtual bool enter(Number row) = 0;
-    // Lets go of the row: nothing of it is kept behind this.
-    virtual void leave() {}
+    // Lets go of the row: nothing of it is kept behind this, in variables of the scope neither
+    // where there is one.
+    virtual void leave(localContextUTF8*) {}
     // The row's cell of a column that has neither a variable nor a formula.
     virtual QString text(const localVclGridColumn&) { return {}; }
     // What stands in front of the row.

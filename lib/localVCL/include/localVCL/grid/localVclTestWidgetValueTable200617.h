@@ -19,7 +19,7 @@ public:
                                        localContextUTF8* context, QWidget* parent = nullptr);
 
     // The number of the row under the cursor, from 1; 0 when there is none.
-    std::int64_t dataSousceId() const { return dataSousceId_; }
+    std::int64_t dataSousceId() const;
     // The variable that holds the table; empty for a table given.
     const std::u16string& variableName() const;
 
@@ -44,5 +44,4 @@ private:
     void columnsOfTable();
 
     localVclValueTableRows* tableRows_;
-    std::int64_t dataSousceId_ = 0;
 };
