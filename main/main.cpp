@@ -2,6 +2,7 @@
 #include "localConsole/console/qMain.h"
 #include "localConsole/help/localConsoleExtension.h"
 #include "localDb/localDbExtension.h"
+#include "localDbVcl/localDbVclExtension.h"
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
@@ -12,8 +13,8 @@ namespace {
 
 // What the program is made of above the language, lowest first.
 constexpr const localExtension* madeOf[] = {
-    &localPictureExtension, &localPictureConverterExtension, &localDbExtension,
-    &localVclExtension,     &localConsoleExtension,
+    &localPictureExtension, &localPictureConverterExtension, &localDbExtension, &localVclExtension,
+    &localDbVclExtension,   &localConsoleExtension,
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "localConsole/help/localConsoleExtension.h"
 #include "localDb/localDbExtension.h"
+#include "localDbVcl/localDbVclExtension.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
 #include "localVCL/library/localVclExtension.h"
@@ -10,7 +11,7 @@
 inline void addWhatKorvoIsMadeOf() {
     for (const localExtension* const extension :
          {&localPictureExtension, &localPictureConverterExtension, &localDbExtension,
-          &localVclExtension, &localConsoleExtension}) {
+          &localVclExtension, &localDbVclExtension, &localConsoleExtension}) {
         localExtensionAdd(*extension);
     }
 }

@@ -1,0 +1,3 @@
+#include "localDbVcl/localDbVclExtension.h"
+
+constexpr localExtension localDbVclExtension = {.name = u"localDbVcl"};
