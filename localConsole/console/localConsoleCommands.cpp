@@ -12,6 +12,7 @@
 #include "localConsole/debug/MyThread.h"
 #include "localConsole/debug/localDebugEditor.h"
 #include "localConsole/debug/localProcess.h"
+#include "localDbVcl/manager/localDbManager.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/file/localStd.h"
@@ -20,6 +21,7 @@
 #include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/scanner/localScanner.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localNumberText.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
@@ -41,6 +43,13 @@ public:
     }
     std::u16string rest() const {
         return command_.substr(std::min<std::size_t>(pos_, command_.size()));
+    }
+    // Whether the word read last stands alone or before an argument: behind a blank, and not as a
+    // name that is assigned to.
+    bool isCommand() const {
+        const std::u16string_view behind =
+            std::u16string_view(command_).substr(std::min<std::size_t>(pos_, command_.size()));
+        return behind.empty() || (isTrimmedUnit(behind[0]) && !trimBoth(behind).starts_with(u'='));
     }
     std::u16string fileName(int& status) { return scanStringGetFileName(status, command_, pos_); }
     localPosition position() const { return pos_; }
@@ -109,6 +118,16 @@ void clearVariables(localContextUTF8& context, const NamePattern& pattern) {
             context.varRemove(i);
         }
     }
+}
+
+void manageFile(Words& words, const std::u16string& word) {
+    int status = localErrorTypeOK;
+    const std::u16string fileName = words.fileName(status);
+    if (status != localErrorTypeOK) {
+        syntaxError(word);
+        return;
+    }
+    dbManage(fileName);
 }
 
 // As the EDIT of the language, but run by the console itself.
@@ -183,6 +202,8 @@ bool localConsole::ownCommand(const std::u16string& command) {
         }
     } else if (isPrefix(word, u"E1111111111111111111111111111111111111111DIT")) {
         editFile(words, word);
+    } else if (isPrefix(word, u"MANAGE") && words.isCommand()) {
+        manageFile(words, word);
     } else if (word == u"STEP") {
         emit commandToThread(command);
     } else if (word == u"TRACE") {

@@ -19,11 +19,19 @@ constexpr int primaryCode = 0xFF;
 // Numbers of columns that stand for the row's own id and for an expression.
 constexpr int rowIdColumn = -1;
 
-// A name as the file has it: without the quotes of a statement.
-std::u16string bareName(std::u16string_view name) {
-    const bool quoted = name.size() >= 2 && name.front() == u'"' && name.back() == u'"';
-    return std::u16string(quoted ? name.substr(1, name.size() - 2) : name);
-}
+// Words that cannot stand for a name, in the order of the alphabet.
+constexpr std::u16string_view ownWords[] = {
+    u"ADD",     u"ALL",        u"ALTER",       u"AND",     u"AS",       u"AUTOINCREMENT",
+    u"BETWEEN", u"CASE",       u"CHECK",       u"COLLATE", u"COMMIT",   u"CONSTRAINT",
+    u"CREATE",  u"DEFAULT",    u"DEFERRABLE",  u"DELETE",  u"DISTINCT", u"DROP",
+    u"ELSE",    u"ESCAPE",     u"EXCEPT",      u"EXISTS",  u"FOREIGN",  u"FROM",
+    u"GROUP",   u"HAVING",     u"IN",          u"INDEX",   u"INSERT",   u"INTERSECT",
+    u"INTO",    u"IS",         u"ISNULL",      u"JOIN",    u"LIMIT",    u"NOT",
+    u"NOTHING", u"NOTNULL",    u"NULL",        u"ON",      u"OR",       u"ORDER",
+    u"PRIMARY", u"REFERENCES", u"RETURNING",   u"SELECT",  u"SET",      u"TABLE",
+    u"THEN",    u"TO",         u"TRANSACTION", u"UNION",   u"UNIQUE",   u"UPDATE",
+    u"USING",   u"VALUES",     u"WHEN",        u"WHERE",
+};
 
 // The rule by which a declared type says what becomes of values.
 localDbKeyColumn::Affinity affinityOf(const QString& declaredType) {
@@ -111,6 +119,10 @@ std::u16string lookSql() {
     return u"select 1 from sqlite_master limit 1";
 }
 
+std::u16string objectsSql() {
+    return u"select * from sqlite_master ;";
+}
+
 std::u16string fieldsSql(std::u16string_view table) {
     return localDbWords(u"PRAGMA  table_info(", table, u");");
 }
@@ -131,7 +143,17 @@ std::u16string word(std::u16string_view name) {
     const bool plain = !name.empty() && (name.front() < u'0' || name.front() > u'9') &&
                        std::all_of(name.begin(), name.end(),
                                    [](char16_t unit) { return unit >= 128 || isNameUnit(unit); });
-    return plain ? std::u16string(name) : localDbQuoted(name, u'"');
+    const bool taken = std::binary_search(std::begin(ownWords), std::end(ownWords), toUpper(name));
+    return plain && !taken ? std::u16string(name) : localDbQuoted(name, u'"');
+}
+
+std::u16string bareName(std::u16string_view name) {
+    if (name.size() < 2 || name.front() != u'"' || name.back() != u'"') {
+        return std::u16string(name);
+    }
+    return localDbQString(name.substr(1, name.size() - 2))
+        .replace(QLatin1String("\"\""), QLatin1String("\""))
+        .toStdU16String();
 }
 
 std::u16string bytesWord(std::u16string_view digits) {

@@ -21,6 +21,8 @@ bool isLocked(const QSqlError& error);
 
 // A statement that reads the catalogue and nothing else.
 std::u16string lookSql();
+// All that the catalogue holds.
+std::u16string objectsSql();
 std::u16string fieldsSql(std::u16string_view table);
 std::u16string indexNamesSql(std::u16string_view table);
 std::u16string indexKeySql(std::u16string_view index);
@@ -32,8 +34,11 @@ std::u16string renameAloneSql(bool alone);
 // What makes a column the key of a new table.
 inline constexpr std::u16string_view primaryKeyWords = u" PRIMARY KEY AUTOINCREMENT ";
 
-// A name as it can stand in a statement: in double quotes when it is no plain word.
+// A name as it can stand in a statement: in double quotes when it is no plain word, or one of the
+// language's own.
 std::u16string word(std::u16string_view name);
+// A name as the file has it: without the quotes of a statement.
+std::u16string bareName(std::u16string_view name);
 
 // A number past all others as a word of a statement.
 inline constexpr std::u16string_view infinityWord = u"9e999";

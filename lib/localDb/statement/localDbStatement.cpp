@@ -33,11 +33,11 @@ std::u16string localDbUnfitText(std::u16string_view sql) {
     return QStringView(sql).isValidUtf16() ? u"" : u"A statement cannot hold half of a letter.";
 }
 
-bool localDb::exec(QSqlQuery& query, const QString& sql) {
+bool localDb::exec(QSqlQuery& query, const QString& sql, Reading reading) {
     if (!localDbUnfitText(localDbView(sql)).empty()) {
         return false;
     }
-    query.setForwardOnly(true);
+    query.setForwardOnly(reading == Reading::forward);
     if (query.exec(sql)) {
         return true;
     }
@@ -54,6 +54,10 @@ bool localDb::exec(QSqlQuery& query, const QString& sql) {
         }
     } while (localDbSqlite::isLocked(query.lastError()) && !waited.hasExpired(lockedWait));
     return false;
+}
+
+std::u16string localDb::nameWord(std::u16string_view name) {
+    return localDbSqlite::word(name);
 }
 
 bool localDb::dbQueryExec(std::u16string_view connection, std::u16string_view sql,

@@ -75,7 +75,7 @@ bool localDb::dbTableExist(std::u16string_view connection, std::u16string_view t
     query.finish();
     return localDbConnection::database(connection)
         .tables(QSql::Tables)
-        .contains(localDbQString(table));
+        .contains(localDbQString(localDbSqlite::bareName(table)));
 }
 
 localDb::Fields localDb::dbtFieldsDescriptionsGet(std::u16string_view connection,

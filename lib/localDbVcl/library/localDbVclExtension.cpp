@@ -1,3 +1,13 @@
 #include "localDbVcl/localDbVclExtension.h"
 
-constexpr localExtension localDbVclExtension = {.name = u"localDbVcl"};
+#include "manager/localDbTreeShow.h"
+
+namespace {
+
+constexpr localExtensionMethod methods[] = {
+    {u"DATABASE", u"TREESHOW", localDbTreeShow},
+};
+
+}  // namespace
+
+constexpr localExtension localDbVclExtension = {.name = u"localDbVcl", .methods = methods};

@@ -23,6 +23,7 @@
 #include "localDb/field/localDbFieldDescription.h"
 #include "localDb/field/localDbFieldValue.h"
 #include "localDb/index/localDbKey.h"
+#include "localDb/table/localDbObject.h"
 
 class localValueTable;
 
@@ -57,7 +58,10 @@ public:
                             QSqlQuery& query);
     // Runs a statement on a query made by the caller, waiting for a locked file, and tells nobody.
     // False also for a text that no statement can hold; the query then has no error.
-    static bool exec(QSqlQuery& query, const QString& sql);
+    enum class Reading { forward, anywhere };
+    static bool exec(QSqlQuery& query, const QString& sql, Reading reading = Reading::forward);
+    // A name of the file as a word of a statement: in double quotes where it would not stand alone.
+    static std::u16string nameWord(std::u16string_view name);
     // Empties a value table and fills it with the first 100 rows of a statement, as texts. A failed
     // statement leaves two columns "Type" and "Text" that tell of it. False, with an empty table,
     // when the connection does not open.
@@ -86,13 +90,26 @@ public:
     static bool d1btRecordUpdate(std::u16string_view connection, std::u16string_view table,
                                  const std::vector<localDbFieldValue>& fields,
                                  std::u16string_view keyFieldName);
+    // A value as a cell: its type is "CHAR", "INT" or "NUME" after what it is itself, "unkn" for
+    // NULL and bytes.
+    static localDbFieldValue cellOf(std::u16string_view name, const QVariant& value);
+    // Those cells of a record just read that d1btRecordUpdate writes back as what they are, and no
+    // other: NULL, bytes, letters that a statement or the file's encoding cannot hold, and columns
+    // that the file computes are left out. Names are words of a statement.
+    static std::vector<localDbFieldValue> dbtCellsThatComeBack(std::u16string_view connection,
+                                                               std::u16string_view table,
+                                                               std::int64_t id,
+                                                               const QSqlRecord& record);
     // Empty when nothing was found; a failed statement is not reported.
     static std::u16string dbtFieldGetMaxVal(std::u16string_view connection,
                                             std::u16string_view table, std::u16string_view field);
 
-    // --- Tables
+    // --- Tables and all other objects
 
-    // Compares letter for letter.
+    // All that the file declares, in its own order. False after the two boxes of a failed
+    // statement.
+    static bool dbObjectsGet(std::u16string_view connection, std::vector<localDbObject>& objects);
+    // Compares letter for letter; a name may stand in double quotes.
     static bool dbTableExist(std::u16string_view connection, std::u16string_view table);
     static Fields dbtFieldsDescriptionsGet(std::u16string_view connection,
                                            std::u16string_view table);
@@ -121,6 +138,16 @@ public:
     // The key columns in key order.
     static std::vector<std::u16string> idxKeyFieldNamesGet(std::u16string_view connection,
                                                            std::u16string_view index);
+    // Tells of a failure only.
+    static bool idxCreate(std::u16string_view connection, std::u16string_view table,
+                          std::u16string_view index, const std::vector<std::u16string>& keyNames,
+                          localDbObject::Keys keys);
+    // The statement that makes an index or trigger of a table anew when the table has these fields;
+    // key columns that were renamed have their new names in it. Empty for an index that belongs to
+    // the table's own declaration, and for one of whose key columns is gone.
+    static std::u16string dbObjectStatement(std::u16string_view connection,
+                                            const localDbObject& object, const Fields& fields);
+    static bool dbObjectMake(std::u16string_view connection, std::u16string_view statement);
     static bool idxDelete(std::u16string_view connection, std::u16string_view index);
     static bool idxDeleteAfterAnswer(std::u16string_view connection, std::u16string_view index);
 
