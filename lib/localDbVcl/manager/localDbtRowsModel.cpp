@@ -56,6 +56,7 @@ void localDbtRowsModel::read(int most) {
         return;
     }
     beginResetModel();
+    isReading_ = true;
     const bool done = run(sql_ + QLatin1Char(';'));
     isWhole_ = !done || !QSqlQueryModel::canFetchMore();
     if (!isWhole_ && run(sql_ + QStringLiteral(" limit %1;").arg(most))) {
@@ -64,6 +65,7 @@ void localDbtRowsModel::read(int most) {
         }
         isWhole_ = rowCount() < most;
     }
+    isReading_ = false;
     endResetModel();
 }
 
@@ -75,8 +77,13 @@ bool localDbtRowsModel::canFetchMore(const QModelIndex& parent) const {
     return !parent.isValid() && !isWhole_ && file_.stands();
 }
 
-void localDbtRowsModel::fetchMore(const QModelIndex&) {
-    read(rowCount() * 2);
+void localDbtRowsModel::fetchMore(const QModelIndex& parent) {
+    if (isReading_) {
+        // The base reads the first rows of a statement by this.
+        QSqlQueryModel::fetchMore(parent);
+    } else {
+        read(rowCount() * 2);
+    }
 }
 
 QVariant localDbtRowsModel::value(const QModelIndex& index) const {

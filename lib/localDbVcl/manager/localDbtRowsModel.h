@@ -41,5 +41,6 @@ private:
     std::u16string connection_;
     QString sql_;
     localDbWindowFile file_;
-    bool isWhole_ = false;  // no row follows
+    bool isWhole_ = false;    // no row follows
+    bool isReading_ = false;  // a statement is under way
 };
