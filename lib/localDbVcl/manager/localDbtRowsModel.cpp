@@ -65,8 +65,9 @@ void localDbtRowsModel::read(int most) {
         }
         isWhole_ = rowCount() < most;
     }
-    isReading_ = false;
     endResetModel();
+    // Views that find their place again behind the reset do not read on by that.
+    isReading_ = false;
 }
 
 void localDbtRowsModel::readAgain() {
@@ -74,7 +75,7 @@ void localDbtRowsModel::readAgain() {
 }
 
 bool localDbtRowsModel::canFetchMore(const QModelIndex& parent) const {
-    return !parent.isValid() && !isWhole_ && file_.stands();
+    return !parent.isValid() && !isReading_ && !isWhole_ && file_.stands();
 }
 
 void localDbtRowsModel::fetchMore(const QModelIndex& parent) {
