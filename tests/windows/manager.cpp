@@ -235,7 +235,8 @@ private slots:
             QVERIFY(table(object) != nullptr);
         }
         QVERIFY2(boxes().isEmpty(), qPrintable(boxes().join('\n')));
-        for (const char* const object : {"by code", "my goods", "Order", "Товары", "in \"quotes\""}) {
+        for (const char* const object :
+             {"by code", "my goods", "Order", "Товары", "in \"quotes\""}) {
             QVERIFY(choose(object));
             host_.answers = {managerTest::Button::ok, managerTest::Button::ok};
             QTest::keyClick(list(), Qt::Key_Delete);

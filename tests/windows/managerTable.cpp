@@ -222,6 +222,20 @@ private slots:
                                            "<BR/>] html"}));
     }
 
+    void theRecordOnTheScreen() {
+        make(goods);
+        localDbtQTableView* const view = open("Goods");
+        localVclHost real;
+        localHost::install(&real);
+        const dialogAnswer answer([](QWidget* dialog) {
+            QVERIFY(saveScreenshot(*dialog, "manager-record"));
+            static_cast<QDialog*>(dialog)->accept();
+        });
+        QTest::keyClick(view, Qt::Key_F4);
+        localHost::install(&host_);
+        QVERIFY(answer.given());
+    }
+
     void markupAndLongTextsAreShownAsTheyAre() {
         make("create table A (id INTEGER PRIMARY KEY, a CHAR(9), b CHAR(9))\n"
              "insert into A values (1, '<B>&amp;', '" +

@@ -81,7 +81,6 @@ localDbFieldsTab::localDbFieldsTab(const localDb::Fields& fields, bool canChange
     auto* const buttons = new QHBoxLayout;
     const auto button = [&](const QString& text, auto slot) {
         auto* const made = new QPushButton(text);
-        made->setAutoDefault(false);
         connect(made, &QPushButton::clicked, this, slot);
         buttons->addWidget(made);
         made->setVisible(canChange);

@@ -45,7 +45,6 @@ localDbIndexesTab::localDbIndexesTab(std::u16string_view connection, const local
     auto* const buttons = new QHBoxLayout;
     const auto button = [&](const QString& text, auto slot) {
         auto* const made = new QPushButton(text);
-        made->setAutoDefault(false);
         made->setVisible(canChange);
         connect(made, &QPushButton::clicked, this, slot);
         buttons->addWidget(made);
@@ -53,7 +52,7 @@ localDbIndexesTab::localDbIndexesTab(std::u16string_view connection, const local
     };
     button(QStringLiteral("&Create..."), [this] { create(); });
     drop_ = button(QStringLiteral("&Drop"), [this] { drop(); });
-    auto* const note = new QLabel(QStringLiteral("At once, whatever becomes of this dialog."));
+    auto* const note = new QLabel(QStringLiteral("Both take effect at once."));
     note->setForegroundRole(QPalette::PlaceholderText);
     note->setVisible(canChange);
     buttons->addWidget(note);

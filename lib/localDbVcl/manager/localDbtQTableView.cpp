@@ -54,9 +54,9 @@ localDbtQTableView::localDbtQTableView(std::u16string_view connection, std::u16s
       tableWord_(localDb::nameWord(table)),
       rows_(new localDbtRowsModel(connection, tableWord_, this)) {
     localDbManagerLook(*this);
+    horizontalHeader()->setStretchLastSection(false);
     setModel(rows_);
     localDbManagerColumnsFit(*this);
-    horizontalHeader()->setStretchLastSection(false);
     setCurrentIndex(rows_->index(0, 0));
     connect(this, &QTableView::activated, this, &localDbtQTableView::activatedSlot);
     // Reading on means reading anew; the person stays at the row.

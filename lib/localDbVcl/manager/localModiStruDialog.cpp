@@ -1,6 +1,7 @@
 #include "localDbVcl/manager/localModiStruDialog.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -47,10 +48,6 @@ localModiStruDialog::localModiStruDialog(std::u16string_view connection,
     tabs_->addTab(declaration_, QStringLiteral("Table"));
     connect(tabs_, &QTabWidget::currentChanged, this, &localModiStruDialog::declarationShow);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    for (QAbstractButton* const button : buttons->buttons()) {
-        // The Return key belongs to the lists: nobody begins a rebuild by a slip.
-        static_cast<QPushButton*>(button)->setAutoDefault(false);
-    }
     connect(buttons, &QDialogButtonBox::accepted, this, &localModiStruDialog::slotOk);
     connect(buttons, &QDialogButtonBox::rejected, this, &localModiStruDialog::slotCancel);
     auto* const layout = new QVBoxLayout(this);
@@ -64,9 +61,29 @@ localDb::Fields localModiStruDialog::fields() const {
     return fieldsTab_->fields();
 }
 
+void localModiStruDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    for (auto* const button : findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+}
+
+// Return presses the button that has the focus and no other: a rebuild is not begun by a slip in a
+// list.
+void localModiStruDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+    } else if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) {
+        button->click();
+    }
+}
+
 void localModiStruDialog::declarationShow() {
-    declaration_->setHtml(localVclQString(dbFieldsDump(fields())) + QStringLiteral("<PRE>") +
-                          localVclQString(object_.sql).toHtmlEscaped() + QStringLiteral("</PRE>"));
+    declaration_->setHtml(
+        localVclQString(dbFieldsDump(fields())) +
+        QStringLiteral("<P STYLE=\"white-space: pre-wrap; font-family: monospace\">") +
+        localVclQString(object_.sql).toHtmlEscaped() + QStringLiteral("</P>"));
 }
 
 void localModiStruDialog::slotOk() {

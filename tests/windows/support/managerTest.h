@@ -34,14 +34,16 @@ using Button = localReport::Button;
 class otherConnection {
 public:
     explicit otherConnection(const QString& file) {
-        database_ = QSqlDatabase::addDatabase("QSQLITE", "other");
+        static int count = 0;
+        database_ = QSqlDatabase::addDatabase("QSQLITE", "other " + QString::number(++count));
         database_.setDatabaseName(file);
         database_.setConnectOptions("QSQLITE_BUSY_TIMEOUT=0");
         opened_ = database_.open();
     }
     ~otherConnection() {
+        const QString name = database_.connectionName();
         database_ = {};
-        QSqlDatabase::removeDatabase("other");
+        QSqlDatabase::removeDatabase(name);
     }
     // One statement a line. What failed, empty when nothing did.
     QString run(const QString& statements) {
@@ -53,6 +55,7 @@ public:
         }
         return {};
     }
+    const QSqlDatabase& database() const { return database_; }
     // The rows as text, cells between strokes.
     QStringList rows(const QString& statement) {
         QStringList all;

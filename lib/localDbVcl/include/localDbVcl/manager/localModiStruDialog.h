@@ -32,6 +32,10 @@ public slots:
     void slotOk();
     void slotCancel();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void declarationShow();
 
