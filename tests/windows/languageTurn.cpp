@@ -172,6 +172,7 @@ std::vector<Case> cases() {
         {"text that is shown", "STRINGSHOW(\"текст\")", {}, "1", 0, false},
         {"window with code", "FORMOPEN(\"\")", {}, "55", linesOfAWindow, false},
         {"dialog with code", "FORMEDIT(\"\")", {}, "55", linesOfAWindow, false},
+        {"tree of a data file", "base.TREESHOW()", {}, "ИСТИНА", 0, false},
         {"answer from the network", "NETWORKREQUESTEXECSYNC(\"GET\",\"short\")", {}, "200"},
     };
 }
@@ -207,6 +208,11 @@ private slots:
               "FUNCTION fib(n)\nIF n<2 THEN RETURN n; ENDIF;\nRETURN fib(n-1)+fib(n-2);\n"
               "ENDFUNCTION;\n");
         enter("DO fib.prg");
+        write("data.sqlite", "");
+        qApp->setProperty("dataFileName", "data.sqlite");
+        enter("CLASSLOAD(\"DATABASE\")");
+        enter("base=CREATEOBJECT(\"DATABASE\")");
+        enter("base.CONNECT()");
         enter("list=CREATEOBJECT(\"VALUELIST\")");
         enter("list.VALUEADD(1,\"Первый\")");
         enter("list.VALUEADD(2,\"Второй\")");
