@@ -1,5 +1,8 @@
 #include "localConsole/help/localConsoleHelpBrowser.h"
 
+#include <QImage>
+
+#include "localInterpretatorUTF8/file/localStd.h"
 #include "localVCL/picture/localVclPicture.h"
 #include "localVCL/text/localVclText.h"
 
@@ -72,6 +75,15 @@ void localConsoleHelpBrowser::goBack() {
 void localConsoleHelpBrowser::onAnchorClicked(const QUrl& link) {
     const QString text = textOf(link);
     goTo(pages_->keyOfLink(localVclText(text)));
+}
+
+QVariant localConsoleHelpBrowser::loadResource(int type, const QUrl& name) {
+    if (type != QTextDocument::ImageResource) {
+        return QTextBrowser::loadResource(type, name);
+    }
+    const std::u16string file = name.fileName().toStdU16String();
+    const std::u16string folder = localStd::fileSearch(file);
+    return folder.empty() ? QVariant() : QImage(localVclQString(localStd::pathJoin(folder, file)));
 }
 
 void localConsoleHelpBrowser::keyPressEvent(QKeyEvent* event) {

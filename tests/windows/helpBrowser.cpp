@@ -62,6 +62,22 @@ private slots:
         QVERIFY(!browser.windowIcon().isNull());
     }
 
+    void picturesLieBesideTheProgramsFiles() {
+        QTemporaryDir folder;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(Qt::darkGreen);
+        QVERIFY(picture.save("shown.png"));
+        const localConsoleHelpBrowser browser;
+        const auto loaded = [&](const QString& name) {
+            return browser.document()->resource(QTextDocument::ImageResource, name).value<QImage>();
+        };
+        QCOMPARE(loaded("shown.png").size(), QSize(40, 30));
+        QVERIFY(loaded("missing.png").isNull());
+        QVERIFY(QDir::setCurrent(before));
+    }
+
     void pagesAreFollowedByMouse() {
         shownBook browser;
         QVERIFY(browser.loaded);

@@ -25,6 +25,8 @@ void localDbManagerTableView::columnsFit() {
     const int digits = fontMetrics().horizontalAdvance(QStringLiteral("100000000"));
     using Model = localDbManagerTableModel;
     setColumnWidth(Model::rowCountColumn, qMax(columnWidth(Model::rowCountColumn), digits));
+    // The last one takes what is left of the window.
+    setColumnWidth(Model::tabComment, digits);
 }
 
 bool localDbManagerTableView::isReady() const {

@@ -1,6 +1,5 @@
 #include "localDbVcl/manager/localDbTree.h"
 
-#include <QHeaderView>
 #include <QStyle>
 
 #include "localVCL/text/localVclText.h"
@@ -12,9 +11,6 @@ localDbTree::localDbTree(std::u16string_view connection, const std::vector<Table
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setFrameShape(QFrame::NoFrame);
-    // Long names are scrolled to, not cut.
-    header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     QTreeWidgetItem* const root = itemAdd(*invisibleRootItem(), connectionItem, connection);
     for (const Table& table : tables) {
         QTreeWidgetItem* const shown = itemAdd(*root, tableItem, table.name);

@@ -23,7 +23,7 @@ namespace {
 using Kind = localReport::Kind;
 
 // In pixels.
-constexpr QSize smallestView{420, 300};
+constexpr QSize smallestView{480, 300};
 constexpr QSize largestView{960, 560};
 
 // A longer text is cut, as in the message window.

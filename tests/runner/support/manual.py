@@ -38,9 +38,9 @@ EXPRESSION_WORDS = "AND И OR ИЛИ NOT НЕ TRUE ИСТИНА FALSE ЛОЖЬ".
 # The one-line commands, in step with the language's own and those of the console window.
 COMMANDS = ["?", "#", "DO", "HELP", "CLEAR MEMORY", "DIR", "DIRECTORY", "DISPLAY FUNCTION",
             "DISPLAY MEMORY", "DISPLAY CLASS", "DISPLAY CONTEXT", "MODIFY COMMAND", "EDIT COMMAND",
-            "LOAD CLASS", "LOAD CONTEXT", "QUIT", "EXIT", "RUN", "MANUAL", "DEBUG", "STEP", "TRACE",
-            "TRYING", "C1LEAR MEMORY", "D1ISPLAY MEMORY", "D1ISPLAY CLASS", "E" + 40 * "1" +
-            "DIT COMMAND"]
+            "LOAD CLASS", "LOAD CONTEXT", "QUIT", "EXIT", "RUN", "MANUAL", "MANAGE", "DEBUG",
+            "STEP", "TRACE", "TRYING", "C1LEAR MEMORY", "D1ISPLAY MEMORY", "D1ISPLAY CLASS",
+            "E" + 40 * "1" + "DIT COMMAND"]
 
 # Functions that work and stand in no listing.
 HIDDEN_FUNCTIONS = {"TOSTRING", "V1ALUETOSTRING", "З1НАЧЕНИЕВСТРОКУ"}
@@ -52,7 +52,9 @@ with open(os.path.join(SUPPORT, "manualWindowMark.txt"), encoding="utf-8") as ma
 PATIENCE = 50  # seconds for one example, even with sanitizers
 
 PAIRED_TAGS = ["B", "I", "P", "PRE", "UL", "LI", "H2", "TABLE", "TR", "TH", "TD"]
-TAG = re.compile(rf"</?(?:{'|'.join(PAIRED_TAGS)})>|<BR/?>|<a href=\"#[^\"<>]*\">|</a>", re.I)
+PICTURE = re.compile(r'<IMG SRC="([\w.]+)"/>')
+TAG = re.compile(rf"</?(?:{'|'.join(PAIRED_TAGS)})>|<BR/?>|<a href=\"#[^\"<>]*\">|</a>"
+                 rf"|{PICTURE.pattern}", re.I)
 ENTITY = re.compile(r"&(?:lt|gt|amp|quot|nbsp);")
 LINK = re.compile(r'href="#([^"]*)"')
 TRACE_TAIL = re.compile(r" func: \S* file: \S+ line: \d+\s*$")
@@ -180,6 +182,13 @@ def checkLinks(book):
     for place, target in links:
         if target not in targets:
             fault(place, f"link to a missing page {target!r}")
+
+
+def checkPictures(book, folder):
+    for place, text in textsOf(book):
+        for picture in PICTURE.findall(text):
+            if not os.path.isfile(os.path.join(folder, picture)):
+                fault(place, f"no picture {picture!r} beside the book")
 
 
 # --- completeness
@@ -311,7 +320,7 @@ def checkExamples(book):
           f"{len(examples) - len(here)} left to the window program")
 
 
-def checkBook(text):
+def checkBook(text, folder):
     """The checks from the outside in: each relies on those before it."""
     try:
         book = json.loads(text, object_pairs_hook=withoutDuplicates)
@@ -323,13 +332,14 @@ def checkBook(text):
     if faults:
         return
     checkLinks(book)
+    checkPictures(book, folder)
     checkCompleteness(book)
     checkExamples(book)
 
 
 def main(fileName):
     with open(fileName, encoding="utf-8") as file:
-        checkBook(file.read())
+        checkBook(file.read(), os.path.dirname(fileName))
     for line in faults:
         print(line)
     return 1 if faults else 0

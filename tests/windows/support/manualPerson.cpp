@@ -22,6 +22,8 @@
 #include "localConsole/console/localConsole.h"
 #include "localConsole/debug/MyThread.h"
 #include "localConsole/help/localConsoleHelpBrowser.h"
+#include "localDbVcl/manager/localDbManagerTableView.h"
+#include "localDbVcl/manager/localDbTree.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/dialog/localVclListDialog.h"
 #include "localVCL/editor/localDialogFindString.h"
@@ -78,6 +80,8 @@ bool isPicture(QWidget& window) {
 
 const QMap<QString, bool (*)(QWidget&)> windowKinds = {
     {"ввода", holds<QInputDialog>},
+    {"данных", holds<localDbManagerTableView>},
+    {"дерева", holds<localDbTree>},
     {"выбора", holds<localVclQStringListGetItemDialog>},
     {"календаря", holds<localCalendar>},
     {"картинки", isPicture},
@@ -97,6 +101,24 @@ QString nameOf(const QWidget& window) {
     return window.metaObject()->className() + (" [" + titleOf(window) + "]");
 }
 
+bool isList(const QWidget* widget) {
+    return qobject_cast<const QListWidget*>(widget) != nullptr ||
+           qobject_cast<const localDbManagerTableView*>(widget) != nullptr ||
+           qobject_cast<const localDbTree*>(widget) != nullptr;
+}
+
+// The texts of rows, and of those below them.
+QStringList textsOf(const QAbstractItemModel& model, const QModelIndex& parent) {
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        for (int column = 0; column < model.columnCount(parent); ++column) {
+            texts += model.index(row, column, parent).data().toString();
+        }
+        texts += textsOf(model, model.index(row, 0, parent));
+    }
+    return texts;
+}
+
 // The lines of text that a window shows.
 QStringList linesOf(QWidget& window) {
     QStringList lines;
@@ -105,10 +127,8 @@ QStringList linesOf(QWidget& window) {
             lines += edit->toPlainText().split('\n');
         } else if (auto* const plain = qobject_cast<const QPlainTextEdit*>(widget)) {
             lines += plain->toPlainText().split('\n');
-        } else if (auto* const list = qobject_cast<const QListWidget*>(widget)) {
-            for (int i = 0; i < list->count(); ++i) {
-                lines += list->item(i)->text();
-            }
+        } else if (isList(widget)) {
+            lines += textsOf(*qobject_cast<const QAbstractItemView*>(widget)->model(), {});
         } else if (auto* const label = qobject_cast<const QLabel*>(widget)) {
             const QSize picture = label->pixmap().size();
             lines += label->text().split('\n');

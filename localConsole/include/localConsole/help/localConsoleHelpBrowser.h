@@ -40,6 +40,8 @@ public slots:
     void onAnchorClicked(const QUrl& link);
 
 protected:
+    // Pictures of the pages lie where the program's own files are searched for.
+    QVariant loadResource(int type, const QUrl& name) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
