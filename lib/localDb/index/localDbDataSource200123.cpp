@@ -83,7 +83,7 @@ bool localDbDataSource200123::begin(std::u16string_view defaultIdxName) {
                          localDbWords(u"Не удалось установить индекс ", wanted));
         return false;
     }
-    fillFromKeyVal(localDbKey(fixedKeyValues_.begin(), fixedKeyValues_.end()));
+    fillFromStart();
     return true;
 }
 

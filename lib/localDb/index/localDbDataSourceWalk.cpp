@@ -4,6 +4,7 @@
 #include <QSqlQuery>
 
 #include <algorithm>
+#include <compare>
 #include <span>
 
 #include "index/localDbPasses.h"
@@ -71,28 +72,27 @@ localDbKey keyOf(const std::vector<QVariant>& values) {
     return key;
 }
 
+// Texts as a collation sees them: equal ones get the same letters.
+QString folded(QString text, const localDbKeyColumn& column) {
+    if (column.collation == u"RTRIM") {
+        while (text.endsWith(QLatin1Char(' '))) {
+            text.chop(1);
+        }
+    } else if (column.collation == u"NOCASE") {
+        // Latin letters only.
+        for (QChar& letter : text) {
+            letter = letter.unicode() < 128 ? letter.toLower() : letter;
+        }
+    }
+    return text;
+}
+
 // Whether an index holds two values for the same.
 bool isSame(const QVariant& a, const QVariant& b, const localDbKeyColumn& column) {
     if (a.typeId() != QMetaType::QString || b.typeId() != QMetaType::QString) {
         return a.isNull() == b.isNull() && a == b;
     }
-    QString first = a.toString();
-    QString second = b.toString();
-    if (column.collation == u"RTRIM") {
-        for (QString* const text : {&first, &second}) {
-            while (text->endsWith(QLatin1Char(' '))) {
-                text->chop(1);
-            }
-        }
-    } else if (column.collation == u"NOCASE") {
-        // Latin letters only.
-        for (QString* const text : {&first, &second}) {
-            for (QChar& letter : *text) {
-                letter = letter.unicode() < 128 ? letter.toLower() : letter;
-            }
-        }
-    }
-    return first == second;
+    return folded(a.toString(), column) == folded(b.toString(), column);
 }
 
 bool hasValues(const localDbKey& row, const localDbKey& wanted) {
@@ -105,23 +105,85 @@ bool hasValues(const localDbKey& row, const localDbKey& wanted) {
                       });
 }
 
-bool isAtOrAfter(const localDbKey& row, const localDbKey& wanted) {
-    return !std::lexicographical_compare(
-        row.begin(), row.end(), wanted.begin(), wanted.end(),
-        [](const localDbKeyValue& a, const localDbKeyValue& b) { return a.text < b.text; });
+// How an index ranges what it holds, lowest first.
+enum class Rank { null, number, text, bytes };
+
+Rank rankOf(const localDbKeyValue& value, const localDbKeyColumn& column) {
+    using Kind = localDbKeyValue::Kind;
+    switch (value.kind) {
+        case Kind::null:
+            return Rank::null;
+        case Kind::number:
+            return Rank::number;
+        case Kind::bytes:
+            return Rank::bytes;
+        case Kind::text:
+            return Rank::text;
+        case Kind::given:
+            break;
+    }
+    bool isNumber = false;
+    localDbQString(value.text).toDouble(&isNumber);
+    return isNumber && column.affinity != localDbKeyColumn::Affinity::text ? Rank::number
+                                                                           : Rank::text;
+}
+
+std::strong_ordering numberOrder(const QString& a, const QString& b) {
+    bool firstIsWhole = false;
+    bool secondIsWhole = false;
+    const qint64 first = a.toLongLong(&firstIsWhole);
+    const qint64 second = b.toLongLong(&secondIsWhole);
+    if (firstIsWhole && secondIsWhole) {
+        return first <=> second;
+    }
+    const double left = a.toDouble();
+    const double right = b.toDouble();
+    return left < right   ? std::strong_ordering::less
+           : left > right ? std::strong_ordering::greater
+                          : std::strong_ordering::equal;
+}
+
+std::strong_ordering valueOrder(const localDbKeyValue& a, const localDbKeyValue& b,
+                                const localDbKeyColumn& column) {
+    const Rank rank = rankOf(a, column);
+    if (const auto order = rank <=> rankOf(b, column); order != 0) {
+        return order;
+    }
+    const QString first = localDbQString(a.text);
+    const QString second = localDbQString(b.text);
+    return rank == Rank::number ? numberOrder(first, second)
+                                : folded(first, column).compare(folded(second, column)) <=> 0;
+}
+
+// Whether a row stands at or after a position in the order of the columns.
+bool isAtOrAfter(const localDbKey& row, const localDbKey& wanted,
+                 const std::vector<localDbKeyColumn>& columns) {
+    const std::size_t count = std::min({row.size(), wanted.size(), columns.size()});
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto order = valueOrder(row[i], wanted[i], columns[i]);
+        if (order != 0) {
+            return (order > 0) != columns[i].descending;
+        }
+    }
+    return true;
 }
 
 }  // namespace
 
 // --- The buffer
 
-QString localDbDataSource200123::cell(std::size_t row, std::size_t expression) const {
+QString localDbDataSource200123::cellOf(const Row& row, std::size_t expression) const {
     if (expression >= sqlExpressions_.size()) {
         return QStringLiteral(" illegal column!");
     }
-    return row < dataBuffer_.size()
-               ? dataBuffer_[row][dataBuffer_[row].size() - sqlExpressions_.size() + expression]
-               : QString();
+    return row.size() < sqlExpressions_.size()
+               ? QString()
+               : row[row.size() - sqlExpressions_.size() + expression];
+}
+
+QString localDbDataSource200123::cell(std::size_t row, std::size_t expression) const {
+    static const Row none;
+    return cellOf(row < dataBuffer_.size() ? dataBuffer_[row] : none, expression);
 }
 
 localDbKey localDbDataSource200123::keyOfRow(std::size_t row) const {
@@ -136,7 +198,7 @@ std::ptrdiff_t localDbDataSource200123::rowOfKey(const localDbKey& key) const {
         if (hasValues(ofRow, key)) {
             return static_cast<std::ptrdiff_t>(row);
         }
-        if (after < 0 && isAtOrAfter(ofRow, key)) {
+        if (after < 0 && isAtOrAfter(ofRow, key, currentIdx_->columns)) {
             after = static_cast<std::ptrdiff_t>(row);
         }
     }
@@ -186,6 +248,16 @@ void localDbDataSource200123::fillFromKeyVal(const localDbKey& key) {
     if (!apart && canTellApart && isCrowded()) {
         fill(key, true);
     }
+}
+
+void localDbDataSource200123::fillFromStart() {
+    fillFromKeyVal(localDbKey(fixedKeyValues_.begin(), fixedKeyValues_.end()));
+}
+
+// Where nothing stands before the position, it is the start.
+void localDbDataSource200123::fillAround(const localDbKey& key) {
+    const localDbKey start = relativeKey(key, -halfBuffer, false);
+    fillFromKeyVal(start.empty() ? key : start);
 }
 
 void localDbDataSource200123::fill(const localDbKey& key, bool apart) {
@@ -258,6 +330,22 @@ localDbKey localDbDataSource200123::relativeKey(const localDbKey& key, std::int3
     return read(*currentIdx_, key, offset, strict, *currentIdx_, tellsApart(*currentIdx_, key));
 }
 
+localDbKey localDbDataSource200123::keyBeforeEnd(std::int32_t distance) const {
+    if (currentIdx_ == nullptr) {
+        return {};
+    }
+    const std::u16string from = fromText();
+    const std::span<const localDbKeyColumn> columns = columnsOf(*currentIdx_, true);
+    const localDbRelativeRead read{.connection = connection_,
+                                   .from = from,
+                                   .columns = localDbJoined(namesOf(columns), u", "),
+                                   .keyColumns = columns,
+                                   .fixed = fixedKeyValues_.size(),
+                                   .conditions = localDbMoreConditions(whereConditions_)};
+    return keyOf(
+        read.at(localDbKey(fixedKeyValues_.begin(), fixedKeyValues_.end()), -distance, false));
+}
+
 localDbKey localDbDataSource200123::keyInOtherIndex(const Index& of, const localDbKey& key,
                                                     const Index& other) const {
     return read(of, key, 0, false, other, false);
@@ -272,8 +360,10 @@ localDbKey localDbDataSource200123::exactKeyOfRow(std::size_t row) const {
     while (first > 0 && isSameKey(first - 1, row)) {
         --first;
     }
-    const bool isAlone =
-        first == row && (row + 1 == bufferKeys_.size() || !isSameKey(row, row + 1));
+    // Behind a full buffer others of the key may follow.
+    const std::size_t next = row + 1;
+    const bool isLast = next < bufferKeys_.size() ? !isSameKey(row, next) : next < bufferSize;
+    const bool isAlone = first == row && isLast;
     const std::span<const localDbKeyColumn> columns = columnsOf(*currentIdx_, true);
     if (isAlone || columns.size() == key.size()) {
         return key;
@@ -288,7 +378,7 @@ localDbKey localDbDataSource200123::exactKeyOfRow(std::size_t row) const {
         u" limit 1 offset ", localDbNumber(static_cast<qint64>(row - first)), u";");
     QSqlQuery query;
     if (!localDb::dbQueryExec(connection_, sql, query)) {
-        localDbTellFailed("idxSet", sql);
+        localDbTellFailed("exactKeyOfRow", sql);
         return key;
     }
     if (query.next()) {
@@ -300,6 +390,28 @@ localDbKey localDbDataSource200123::exactKeyOfRow(std::size_t row) const {
     return key;
 }
 
+std::ptrdiff_t localDbDataSource200123::fillAroundRecord(const Index& of, const localDbKey& place) {
+    const bool isOrder = &of == currentIdx_;
+    const localDbKey record =
+        isOrder || place.empty() ? place : keyInOtherIndex(of, place, *currentIdx_);
+    if (record.empty()) {
+        fillFromStart();
+        return dataBuffer_.empty() ? -1 : 0;
+    }
+    fillAround(record);
+    std::ptrdiff_t found = rowOfKey(record);
+    const auto next = static_cast<std::size_t>(found + 1);
+    if (!isOrder && found >= 0 && next < bufferKeys_.size() && isSameKey(next - 1, next)) {
+        // Several rows have the key: the walk goes around the one that was meant.
+        const localDbKey exact = read(of, place, 0, false, *currentIdx_, true);
+        if (!exact.empty()) {
+            fillAround(exact);
+            found = rowOfKey(exact);
+        }
+    }
+    return found;
+}
+
 localDbDataSource200123::IdxSetResult localDbDataSource200123::idxSet(std::u16string_view name,
                                                                       std::size_t row) {
     const Index* const wanted = indexByName(name);
@@ -308,22 +420,6 @@ localDbDataSource200123::IdxSetResult localDbDataSource200123::idxSet(std::u16st
     }
     const Index* const before = currentIdx_;
     const localDbKey place = exactKeyOfRow(row);
-    const localDbKey record = place.empty() ? place : keyInOtherIndex(*before, place, *wanted);
     currentIdx_ = wanted;
-    if (record.empty()) {
-        fillFromKeyVal(localDbKey(fixedKeyValues_.begin(), fixedKeyValues_.end()));
-        return {.changed = true, .row = dataBuffer_.empty() ? -1 : 0};
-    }
-    fillFromKeyVal(relativeKey(record, -halfBuffer, false));
-    std::ptrdiff_t found = rowOfKey(record);
-    const auto next = static_cast<std::size_t>(found + 1);
-    if (found >= 0 && next < bufferKeys_.size() && isSameKey(next - 1, next)) {
-        // Several rows have the key: the walk goes around the one that was meant.
-        const localDbKey exact = read(*before, place, 0, false, *wanted, true);
-        if (!exact.empty()) {
-            fillFromKeyVal(relativeKey(exact, -halfBuffer, false));
-            found = rowOfKey(exact);
-        }
-    }
-    return {.changed = true, .row = found};
+    return {.changed = true, .row = fillAroundRecord(*before, place)};
 }

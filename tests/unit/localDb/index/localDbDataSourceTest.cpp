@@ -378,6 +378,65 @@ TEST_F(localDbDataSourceTest, theCursorIsPutOnARowByItsKey) {
     EXPECT_EQ(goods->rowOfKey({u"B"}), -1);
 }
 
+TEST_F(localDbDataSourceTest, theCursorFindsThePlaceOfANumberThatIsNoRowsKey) {
+    makeGoods();
+    rows("create index Ref03_PRICE on Ref03(price)");
+    rows("create index Ref03_DOWN on Ref03(price desc)");
+    rows("delete from Ref03 where id=60");
+    const auto goods = source(u"Ref03_PRICE");
+    // As texts, "9" would stand behind all of them.
+    EXPECT_EQ(goods->rowOfKey({u"9"}), 5);
+    EXPECT_EQ(goods->rowOfKey({u"90"}), 59);
+    EXPECT_EQ(goods->rowOfKey({{u"-1", localDbKeyValue::Kind::number}}), 0);
+    EXPECT_EQ(goods->rowOfKey({{u"a", localDbKeyValue::Kind::text}}), -1);
+    const auto falling = source(u"Ref03_DOWN");
+    EXPECT_EQ(falling->rowOfKey({u"1490.2"}), 7);
+    EXPECT_EQ(falling->rowOfKey({u"2000"}), 0);
+    EXPECT_EQ(falling->rowOfKey({u"1"}), -1);
+}
+
+TEST_F(localDbDataSourceTest, aKeyTellsARowApartWhereOthersHaveIt) {
+    makeGoods();
+    const auto goods = source(u"Ref03_DESCR");
+    trace();
+    EXPECT_THAT(texts(goods->exactKeyOfRow(3)), ElementsAre("goods 0002", "4"));
+    EXPECT_THAT(texts(goods->exactKeyOfRow(2)), ElementsAre("goods 0002", "3"));
+    EXPECT_EQ(statements.size(), 2);
+    rows("update Ref03 set descr='goods 0128x' where id=256");
+    goods->fillFromStart();
+    // Alone in the buffer; whether others follow is not seen there.
+    EXPECT_THAT(texts(goods->exactKeyOfRow(255)), ElementsAre("goods 0128x", "256"));
+    trace();
+    EXPECT_THAT(texts(goods->exactKeyOfRow(254)), ElementsAre("goods 0128"));
+    EXPECT_THAT(goods->exactKeyOfRow(256), IsEmpty());
+    EXPECT_THAT(statements, IsEmpty());
+}
+
+TEST_F(localDbDataSourceTest, theEndIsOneReadAway) {
+    makeGoods();
+    const auto goods = source(u"Ref03_DESCR");
+    trace();
+    EXPECT_THAT(texts(goods->keyBeforeEnd(1)), ElementsAre("goods 0500", "999"));
+    EXPECT_EQ(statements.size(), 1);
+    EXPECT_THAT(texts(goods->keyBeforeEnd(127)), ElementsAre("goods 0437", "873"));
+    EXPECT_THAT(texts(goods->keyBeforeEnd(5000)), ElementsAre("goods 0001", "1"));
+    const auto folder = source(u"Ref03_PDESCR", {u"7"});
+    EXPECT_THAT(texts(folder->keyBeforeEnd(1)), ElementsAre("7", "0", "goods 0494", "987"));
+    EXPECT_THAT(texts(folder->keyBeforeEnd(500)), ElementsAre("7", "0", "goods 0004", "7"));
+}
+
+TEST_F(localDbDataSourceTest, aRecordOfAnotherIndexIsShownInTheOrderThereIs) {
+    makeGoods();
+    const auto goods = source(u"Ref03_DESCR");
+    const std::ptrdiff_t row =
+        goods->fillAroundRecord(*goods->indexByName(u"Ref03_CODE"), {u"A0602"});
+    ASSERT_GE(row, 0);
+    EXPECT_EQ(goods->currentIdx()->name, u"Ref03_DESCR");
+    EXPECT_EQ(goods->cell(static_cast<std::size_t>(row), 0), "602");
+    EXPECT_EQ(goods->fillAroundRecord(*goods->currentIdx(), {u"goods 0300"}), 128);
+    EXPECT_EQ(goods->cell(128, 0), "599");
+}
+
 TEST_F(localDbDataSourceTest, indexesAreReadAnew) {
     makeGoods();
     const auto goods = source(u"Ref03_CODE");

@@ -96,10 +96,15 @@ public:
     // The value of an expression in a row; " illegal column!" past the last expression, empty past
     // the last row.
     QString cell(std::size_t row, std::size_t expression) const;
+    // The same of a copy of a row.
+    QString cellOf(const Row& row, std::size_t expression) const;
     // Empty when there is no index in force or no such row.
     localDbKey keyOfRow(std::size_t row) const;
+    // The same with what tells the row apart, where others have its key: the walk from there is
+    // that of this very row.
+    localDbKey exactKeyOfRow(std::size_t row) const;
     // The row that a cursor is put on for a key: the first one of that key; where there is none,
-    // the first whose key is at or after it, column by column as text; else -1.
+    // the first whose key is at or after it in the order of the index; else -1.
     std::ptrdiff_t rowOfKey(const localDbKey& key) const;
 
     // --- The walk
@@ -110,11 +115,20 @@ public:
 
     // Refills the buffer with the rows at and after a position. Beeps.
     void fillFromKeyVal(const localDbKey& key);
+    // The same from the first row that has the fixed values.
+    void fillFromStart();
     // The key of the row at a distance (0 or less) from a position in the order of the index in
     // force, or of the farthest row when not `strict`; empty when there is none.
     localDbKey relativeKey(const localDbKey& key, std::int32_t offset, bool strict) const;
     // The values that the first row at or after a position of one index has in another one's key.
     localDbKey keyInOtherIndex(const Index& of, const localDbKey& key, const Index& other) const;
+
+    // The key, with what tells the row apart, of the row that stands so far (1 or more) before the
+    // last one, or of the first row.
+    localDbKey keyBeforeEnd(std::int32_t distance) const;
+    // Refills the buffer around the first record at or after a position of an index; the order
+    // stays. Gives where it stands in the buffer now, -1: nowhere.
+    std::ptrdiff_t fillAroundRecord(const Index& of, const localDbKey& place);
 
     struct IdxSetResult {
         bool changed = false;    // false: no index of that name, nothing was done
@@ -141,9 +155,9 @@ private:
     void tellNoKey() const;
 
     void fill(const localDbKey& key, bool apart);
+    void fillAround(const localDbKey& key);
     bool isCrowded() const;
     bool isSameKey(std::size_t row, std::size_t other) const;
-    localDbKey exactKeyOfRow(std::size_t row) const;
     localDbKey read(const Index& of, const localDbKey& key, std::int32_t offset, bool strict,
                     const Index& other, bool apart) const;
 
