@@ -273,6 +273,7 @@ void localDbDataSource200123::fill(const localDbKey& key, bool apart) {
         localDbWords(orderOf(columns), u" limit ", localDbNumber(bufferSize), u";");
     const std::u16string more = localDbMoreConditions(whereConditions_);
 
+    ++fillCount_;
     dataBuffer_.clear();
     bufferKeys_.clear();
     for (const std::u16string& condition :

@@ -72,7 +72,7 @@ void localDbtBrowsePosition::place(std::ptrdiff_t row) {
 
 void localDbtBrowsePosition::fillAround(const localDbKey& key) {
     if (key.empty()) {
-        toStart();
+        startAnew();
         return;
     }
     // Read twice. Meant.
@@ -87,14 +87,21 @@ void localDbtBrowsePosition::fillFrom(const localDbKey& start, const localDbKey&
     place(row);
 }
 
+// An empty buffer may have rows by now. Without an order there can be none.
+void localDbtBrowsePosition::startAnew() {
+    if (source_.currentIdx() != nullptr) {
+        toStart();
+    }
+}
+
 void localDbtBrowsePosition::fillFromTop() {
     const localDbKey top = source_.exactKeyOfRow(mRec1);
     if (top.empty()) {
-        source_.fillFromStart();
-    } else {
-        source_.fillFromKeyVal(top);
-        startIsInBuffer_ = startIsInBuffer_ && mRec1 == 0;
+        startAnew();
+        return;
     }
+    source_.fillFromKeyVal(top);
+    startIsInBuffer_ = startIsInBuffer_ && mRec1 == 0;
     mRec1 = 0;
 }
 
@@ -109,10 +116,11 @@ void localDbtBrowsePosition::down() {
         }
         return;
     }
+    const bool wasEmpty = !hasRow();
     localHost::current().beep();
     fillFromTop();
     keepCursorOnRows();
-    if (mCurRec() + 1 < size()) {
+    if (!wasEmpty && mCurRec() + 1 < size()) {
         mRec1 = 1;
     }
 }

@@ -90,6 +90,7 @@ private:
     std::uint32_t lowestFilledRow() const;
     // Refills the buffer from the row on top of the screen.
     void fillFromTop();
+    void startAnew();
 
     localDbDataSource200123& source_;
     // Whether the buffer is known to begin with the first row of all.

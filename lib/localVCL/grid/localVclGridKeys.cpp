@@ -113,10 +113,11 @@ void localVclGrid200123::searchTextKey(const QKeyEvent& event) {
 
 void localVclGrid200123::setSearchText(const QString& text) {
     searchText = text;
+    refresh();
     if (!text.isEmpty()) {
+        // The grid may go while it looks.
         find(text);
     }
-    refresh();
 }
 
 void localVclGrid200123::moveRight() {
@@ -228,13 +229,14 @@ void localVclGrid200123::wheelEvent(QWheelEvent* event) {
     wheel_ += event->angleDelta();
     const QPoint notches(wheel_.x() / notch, wheel_.y() / notch);
     wheel_ -= notches * notch;
-    if (notches.y() != 0) {
-        scrollRows(-notches.y() * QApplication::wheelScrollLines());
-    }
+    event->accept();
     for (int i = 0; i < std::abs(notches.x()); ++i) {
         notches.x() > 0 ? moveLeft() : moveRight();
     }
-    event->accept();
+    if (notches.y() != 0) {
+        // The grid may go with it, when it reads rows.
+        scrollRows(-notches.y() * QApplication::wheelScrollLines());
+    }
 }
 
 bool localVclGrid200123::eventFilter(QObject* watched, QEvent* event) {

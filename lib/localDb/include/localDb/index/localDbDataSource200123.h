@@ -93,6 +93,8 @@ public:
     // --- The buffer: rows from 0
 
     const std::vector<Row>& dataBuffer() const { return dataBuffer_; }
+    // How often it was filled: rows keep their numbers as long as this stays.
+    unsigned fillCount() const { return fillCount_; }
     // The value of an expression in a row; " illegal column!" past the last expression, empty past
     // the last row.
     QString cell(std::size_t row, std::size_t expression) const;
@@ -163,6 +165,7 @@ private:
 
     std::u16string connection_;
     std::vector<Row> dataBuffer_;
+    unsigned fillCount_ = 0;
     std::vector<std::unique_ptr<Index>> indexes_;
     std::vector<localDbFieldDescription> fields_;
     std::vector<std::u16string> fixedKeyValues_;
