@@ -39,7 +39,7 @@ bool localDbtBrowseWidget200123::browseKey(const QKeyEvent& event) {
         return true;
     }
     if (selectMode && event.key() == Qt::Key_Escape && searchText.isEmpty()) {
-        choose(0);
+        windowClose();
         return true;
     }
     if (opensCell(event)) {
@@ -84,30 +84,36 @@ bool localDbtBrowseWidget200123::sortKey(int digit) {
     return true;
 }
 
+// Each line that is written lets events in.
 bool localDbtBrowseWidget200123::selectKey() {
+    const QPointer<localDbtBrowseWidget200123> self(this);
     const qint64 id = getId();
     traceLine({u"id = ", localVclText(QString::number(id))}, "keyPressEvent");
     if (id >= 1) {
-        choose(id);
+        traceLine({u"emit this->idSelectedSignal(", localVclText(QString::number(id)), u")"},
+                  "keyPressEvent");
+        if (self != nullptr) {
+            choose(id);
+        }
+        traceLine(u"EMITED ", "keyPressEvent");
     }
-    return id >= 1;
+    return self == nullptr || id >= 1;
 }
 
-// 0: the window closes, and nothing was chosen.
 void localDbtBrowseWidget200123::choose(qint64 id) {
     const QPointer<localDbtBrowseWidget200123> self(this);
+    windowClose();
+    if (self != nullptr) {
+        emit idSelectedSignal(id);
+    }
+}
+
+void localDbtBrowseWidget200123::windowClose() {
     QWidget* window = this;
     while (!window->isWindow() && qobject_cast<QMdiSubWindow*>(window) == nullptr) {
         window = window->parentWidget();
     }
     window->close();
-    if (id < 1 || self == nullptr) {
-        return;
-    }
-    traceLine({u"emit this->idSelectedSignal(", localVclText(QString::number(id)), u")"},
-              "keyPressEvent");
-    emit idSelectedSignal(id);
-    traceLine(u"EMITED ", "keyPressEvent");
 }
 
 void localDbtBrowseWidget200123::cellEdit(unsigned row, unsigned column) {

@@ -121,6 +121,7 @@ private:
     bool selectKey();
     bool sortKey(int digit);
     void choose(qint64 id);
+    void windowClose();
     void limitHeight();
     void keepCursorInSight();
     static View viewOf(std::shared_ptr<DataSource> source);
