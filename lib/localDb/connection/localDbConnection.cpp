@@ -172,7 +172,8 @@ bool localDbConnection::open(std::u16string_view name) {
 
 bool localDbConnection::isReadable() const {
     QSqlQuery look;
-    return open() && localDb::dbQueryExec(name_, localDbSqlite::lookSql(), look);
+    return localDb::connectionOpen(name_, "isReadable") &&
+           localDb::dbQueryExec(name_, localDbSqlite::lookSql(), look);
 }
 
 std::optional<std::vector<std::u16string>> localDbConnection::tables() const {

@@ -47,6 +47,13 @@ bool openMain(std::u16string_view fileName, std::string_view caller) {
     return localDb::connectionOpen(forGood.name(), name, caller);
 }
 
+void tellFailedOpen(std::string_view caller, std::u16string_view fileName, const QSqlError& error) {
+    localDbTellPlain(localReport::Kind::critical, caller,
+                     localDbWords(u"Ошибка открытия базы\n", u"fileName = ", fileName, u"\n",
+                                  u"driverText()   = ", localDbView(error.driverText()), u"\n",
+                                  u"databaseText() = ", localDbView(error.databaseText()), u"\n"));
+}
+
 }  // namespace
 
 void localDb::applicationSetDataFullFileName(std::u16string_view fileName) {
@@ -92,10 +99,24 @@ bool localDb::connectionOpen(std::u16string_view connection, std::u16string_view
     } else {
         error = localDbConnection::database(connection).lastError();
     }
-    localDbTellPlain(localReport::Kind::critical, caller,
-                     localDbWords(u"Ошибка открытия базы\n", u"fileName = ", fileName, u"\n",
-                                  u"driverText()   = ", localDbView(error.driverText()), u"\n",
-                                  u"databaseText() = ", localDbView(error.databaseText()), u"\n"));
+    tellFailedOpen(caller, fileName, error);
+    return false;
+}
+
+bool localDb::connectionOpen(std::u16string_view connection, std::string_view caller) {
+    if (localDbConnection::open(connection)) {
+        return true;
+    }
+    if (localDbConnection::exists(connection) && localDbConnection::isHere(connection)) {
+        const QSqlDatabase database = localDbConnection::database(connection);
+        if (!database.databaseName().isEmpty()) {
+            // No error: it was not tried, since that would make the file that is gone.
+            const QSqlError error = database.lastError();
+            const QSqlError gone(QString(), QStringLiteral("There is no such file."));
+            tellFailedOpen(caller, localDbView(database.databaseName()),
+                           error.isValid() ? error : gone);
+        }
+    }
     return false;
 }
 

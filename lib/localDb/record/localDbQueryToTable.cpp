@@ -47,7 +47,7 @@ bool localDb::queryExecToValueTable(std::u16string_view connection, localValueTa
     table.clear();
     if (!localDbUsable(connection, "queryExecToValueTable",
                        {.title = u"localDb::queryExecToValueTable"}) ||
-        !localDbConnection::open(connection)) {
+        !connectionOpen(connection, "queryExecToValueTable")) {
         return false;
     }
     QSqlQuery query(localDbConnection::database(connection));

@@ -216,7 +216,9 @@ std::u16string localDb::dbtFieldGetMaxVal(std::u16string_view connection, std::u
     if (!localDbUsable(connection, "dbtFieldGetMaxVal", {.title = u"localDb::dbtFieldGetMaxVal"})) {
         return {};
     }
-    localDbConnection::open(connection);
+    if (!localDbConnection::open(connection)) {
+        return {};
+    }
     const std::u16string expression = localDbWords(u"MAX(", field, u")");
     QSqlQuery query(localDbConnection::database(connection));
     exec(query, localDbQString(localDbWords(u"select ", expression, u" from ", table, u" ;")));

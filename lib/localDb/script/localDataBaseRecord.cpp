@@ -31,8 +31,12 @@ bool localDataBaseRecord::select(int& status, std::u16string_view condition) {
     if (database == nullptr) {
         return false;
     }
+    constexpr std::string_view caller = "classImplementationMethodFunction";
     const localDbConnection& connection = database->here();
-    connection.open();
+    query_.reset();
+    if (!localDb::connectionOpen(connection.name(), caller)) {
+        return false;
+    }
     queryConnection_ = connection.name();
     query_.emplace(connection.database());
     columns_.clear();
@@ -40,9 +44,8 @@ bool localDataBaseRecord::select(int& status, std::u16string_view condition) {
                                             condition.empty() ? u"" : u" where ", condition, u" ;");
     if (!localDb::exec(*query_, localDbQString(sql))) {
         // A condition that is none is not told of. Meant.
-        if (localDbSqlite::isLocked(query_->lastError())) {
-            localDbTellStatement("classImplementationMethodFunction", sql,
-                                 localDbErrors(queryConnection_, *query_, sql));
+        if (!localDbSqlite::isStatementAtFault(query_->lastError())) {
+            localDbTellStatement(caller, sql, localDbErrors(queryConnection_, *query_, sql));
         }
         return false;
     }

@@ -12,9 +12,15 @@
 namespace localDbSqlite {
 namespace {
 
-// SQLITE_BUSY; the higher bits of a code tell more closely what happened.
+// SQLITE_ERROR and SQLITE_BUSY.
+constexpr int wrongStatement = 1;
 constexpr int busy = 5;
-constexpr int primaryCode = 0xFF;
+
+// The higher bits of a code tell more closely what happened. 0 for a statement that never came to
+// SQLite.
+int primaryCode(const QSqlError& error) {
+    return error.nativeErrorCode().toInt() & 0xFF;
+}
 
 // Numbers of columns that stand for the row's own id and for an expression.
 constexpr int rowIdColumn = -1;
@@ -166,7 +172,11 @@ QString connectOptions() {
 }
 
 bool isLocked(const QSqlError& error) {
-    return (error.nativeErrorCode().toInt() & primaryCode) == busy;
+    return primaryCode(error) == busy;
+}
+
+bool isStatementAtFault(const QSqlError& error) {
+    return primaryCode(error) <= wrongStatement;
 }
 
 std::u16string lookSql() {

@@ -18,6 +18,8 @@ QString connectOptions();
 
 // Whether a statement failed because another process has locked the file.
 bool isLocked(const QSqlError& error);
+// Whether it failed for its own words, and not for the file.
+bool isStatementAtFault(const QSqlError& error);
 
 // A statement that reads the catalogue and nothing else.
 std::u16string lookSql();

@@ -50,6 +50,9 @@ public:
     // caller's name for a title.
     static bool connectionOpen(std::u16string_view connection, std::u16string_view fileName,
                                std::string_view caller);
+    // Opens a connection again on the file chosen for it, if it is not open. A failure shows that
+    // box; where no file was ever chosen nothing is told.
+    static bool connectionOpen(std::u16string_view connection, std::string_view caller);
 
     // --- Statements
 

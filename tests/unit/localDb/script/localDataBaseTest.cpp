@@ -268,6 +268,7 @@ TEST_F(localDataBaseTest, aFileMadeAnewUnderItsNameIsConnectedTo) {
 }
 
 TEST_F(localDataBaseTest, aFileOfOtherBytesIsToldOfByEachCall) {
+    goods();
     {
         std::fstream file("data.sqlite", std::ios::in | std::ios::out | std::ios::binary);
         file << std::string(4096, 'Z');
@@ -284,6 +285,36 @@ TEST_F(localDataBaseTest, aFileOfOtherBytesIsToldOfByEachCall) {
     EXPECT_FALSE(base().fieldsToValueTable(u"Goods", fields));
     ASSERT_EQ(host.reports.size(), 3U);
     EXPECT_THAT(utf8(host.reports[2].text), HasSubstr("file is not a database"));
+    host.reports.clear();
+    EXPECT_FALSE(goods().select(status_, u""));
+    ASSERT_EQ(host.reports.size(), 1U);
+    EXPECT_THAT(utf8(host.reports[0].text), HasSubstr("file is not a database"));
+    // Of a condition that is none nobody is told, nor of one that no statement can hold.
+    fileMake("data.sqlite");
+    EXPECT_TRUE(base().connect(status_));
+    exec("create table Goods (id INTEGER PRIMARY KEY)");
+    EXPECT_FALSE(goods().select(status_, u"no such thing"));
+    EXPECT_FALSE(goods().select(status_, std::u16string_view(u"id=1\0", 5)));
+    EXPECT_EQ(host.reports.size(), 1U);
+}
+
+TEST_F(localDataBaseTest, aFileThatIsGoneIsToldOfByEachCall) {
+    EXPECT_TRUE(goods().select(status_, u""));
+    std::filesystem::remove("data.sqlite");
+    localValueTable table;
+    EXPECT_FALSE(localDb::queryExecToValueTable(base().name(), table, u"select 1"));
+    EXPECT_FALSE(goods().select(status_, u""));
+    EXPECT_FALSE(goods().next(status_));
+    EXPECT_EQ(status_, localErrorTypeOK);
+    EXPECT_FALSE(base().hasTable(u"Goods"));
+    EXPECT_FALSE(base().fieldsToValueTable(u"Goods", table));
+    EXPECT_EQ(localDb::dbtFieldGetMaxVal(base().name(), u"Goods", u"id"), u"");
+    ASSERT_EQ(host.reports.size(), 4U);
+    for (const localReport& report : host.reports) {
+        EXPECT_THAT(utf8(report.text), HasSubstr("Ошибка открытия базы"));
+        EXPECT_THAT(utf8(report.text), HasSubstr("databaseText() = There is no such file."));
+    }
+    EXPECT_FALSE(std::filesystem::exists("data.sqlite"));
 }
 
 TEST_F(localDataBaseTest, aNullResultIsWantedOfTheCaller) {

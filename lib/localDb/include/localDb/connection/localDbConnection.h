@@ -55,7 +55,7 @@ public:
     bool open() const { return open(name_); }
 
     // Whether the chosen file can be read; opens it when it has to. A locked one is waited for,
-    // which the driver's own lists do not do. A box tells of a file that opens and cannot be read.
+    // which the driver's own lists do not do. A box tells of one that cannot be read.
     bool isReadable() const;
     // The names of the tables, as the driver lists them. Nothing when the file cannot be read.
     std::optional<std::vector<std::u16string>> tables() const;
