@@ -13,7 +13,8 @@ constexpr QSize treeSize{360, 480};  // pixels
 
 std::vector<localDbTree::Table> tablesOf(localDataBase& base) {
     std::vector<localDbTree::Table> tables;
-    for (const std::u16string& name : base.here().tables()) {
+    const auto names = base.here().tables();
+    for (const std::u16string& name : names.value_or(std::vector<std::u16string>())) {
         localDbTree::Table& table = tables.emplace_back();
         table.name = name;
         localValueTable fields;
