@@ -13,6 +13,7 @@
 #include "localDb/localDb.h"
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "report/localDbReport.h"
+#include "sqlite/localDbSqlite.h"
 #include "text/localDbText.h"
 
 namespace {
@@ -72,27 +73,13 @@ localDbKey keyOf(const std::vector<QVariant>& values) {
     return key;
 }
 
-// Texts as a collation sees them: equal ones get the same letters.
-QString folded(QString text, const localDbKeyColumn& column) {
-    if (column.collation == u"RTRIM") {
-        while (text.endsWith(QLatin1Char(' '))) {
-            text.chop(1);
-        }
-    } else if (column.collation == u"NOCASE") {
-        // Latin letters only.
-        for (QChar& letter : text) {
-            letter = letter.unicode() < 128 ? letter.toLower() : letter;
-        }
-    }
-    return text;
-}
-
 // Whether an index holds two values for the same.
 bool isSame(const QVariant& a, const QVariant& b, const localDbKeyColumn& column) {
     if (a.typeId() != QMetaType::QString || b.typeId() != QMetaType::QString) {
         return a.isNull() == b.isNull() && a == b;
     }
-    return folded(a.toString(), column) == folded(b.toString(), column);
+    return localDbSqlite::folded(a.toString(), column.collation) ==
+           localDbSqlite::folded(b.toString(), column.collation);
 }
 
 bool hasValues(const localDbKey& row, const localDbKey& wanted) {
@@ -151,8 +138,10 @@ std::strong_ordering valueOrder(const localDbKeyValue& a, const localDbKeyValue&
     }
     const QString first = localDbQString(a.text);
     const QString second = localDbQString(b.text);
-    return rank == Rank::number ? numberOrder(first, second)
-                                : folded(first, column).compare(folded(second, column)) <=> 0;
+    return rank == Rank::number
+               ? numberOrder(first, second)
+               : localDbSqlite::folded(first, column.collation)
+                         .compare(localDbSqlite::folded(second, column.collation)) <=> 0;
 }
 
 // Whether a row stands at or after a position in the order of the columns.

@@ -224,6 +224,20 @@ std::u16string bytesWord(std::u16string_view digits) {
     return localDbWords(u"X'", digits, u"'");
 }
 
+QString folded(QString text, std::u16string_view collation) {
+    if (collation == u"RTRIM") {
+        while (text.endsWith(QLatin1Char(' '))) {
+            text.chop(1);
+        }
+    } else if (collation == u"NOCASE") {
+        // Latin letters only.
+        for (QChar& letter : text) {
+            letter = letter.unicode() < 128 ? letter.toLower() : letter;
+        }
+    }
+    return text;
+}
+
 IndexColumns indexColumns(std::u16string_view connection, std::u16string_view table,
                           std::u16string_view index) {
     const std::u16string bareTable = bareName(table);

@@ -47,6 +47,9 @@ inline constexpr std::u16string_view infinityWord = u"9e999";
 // Bytes as a word of a statement, from hexadecimal digits.
 std::u16string bytesWord(std::u16string_view digits);
 
+// A text as a collation (BINARY, NOCASE, RTRIM) sees it: equal ones get the same letters.
+QString folded(QString text, std::u16string_view collation);
+
 // The columns of an index as they are compared and ordered: those of the key, then those that tell
 // rows of one key apart, in the index's own order. Empty for an index that does not hold every row
 // or stands on an expression.

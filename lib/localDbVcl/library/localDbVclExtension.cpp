@@ -35,10 +35,8 @@ bool test(localCall& call) {
 }
 
 constexpr localExtensionMethod methods[] = {
-    {u"DATABASE", u"__TEST__BROWSE", testBrowse},
-    {u"DATABASE", u"__TEST", test},
-    {u"DATABASETABLE", u"__TEST", test},
-    {u"DATABASERECORD", u"__TEST", test},
+    {u"DATABASE", u"__TEST__BROWSE", testBrowse}, {u"DATABASE", u"__TEST", test},
+    {u"DATABASETABLE", u"__TEST", test},          {u"DATABASERECORD", u"__TEST", test},
     {u"DATABASE", u"TREESHOW", localDbTreeShow},
 };
 
