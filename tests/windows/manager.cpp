@@ -27,6 +27,14 @@ class manager : public managerTest::test {
 private:
     static constexpr int F4 = Qt::Key_F4;
 
+    // The box of a file that does not open, with what the driver says.
+    static QString notOpened(const QString& complaint) {
+        return "critical [testDbInit] [" + head("testDbInit") +
+               "Ошибка открытия базы\nfileName = " + QFileInfo("data.sqlite").absoluteFilePath() +
+               "\ndriverText()   = Unable to execute statement\ndatabaseText() = " + complaint +
+               "\n]";
+    }
+
 private slots:
     // --- the list
 
@@ -317,11 +325,7 @@ private slots:
     void aFileThatIsNoneIsTold() {
         testFiles::write("data.sqlite", QByteArray(5000, 'x'));
         QVERIFY(!dbManage(u"data.sqlite"));
-        QCOMPARE(boxes().size(), 2);
-        QVERIFY2(boxes()[0].contains("file is not a database"), qPrintable(boxes()[0]));
-        QCOMPARE(boxes()[1], "warning [dbObjectsGet] [" + head("dbObjectsGet") +
-                                 "Ошибка при выполнении запроса: \n\nselect * from sqlite_master "
-                                 ";]");
+        QCOMPARE(boxes(), QStringList({notOpened("file is not a database")}));
         QVERIFY(windows().isEmpty());
         QCOMPARE(testFiles::read("data.sqlite"), QByteArray(5000, 'x'));
     }
@@ -331,12 +335,30 @@ private slots:
         managerTest::otherConnection other("data.sqlite");
         QCOMPARE(other.run("begin exclusive"), QString());
         QVERIFY(!dbManage(u"data.sqlite"));
-        QCOMPARE(boxes().size(), 2);
-        QVERIFY2(boxes()[0].contains("database is locked"), qPrintable(boxes()[0]));
+        QCOMPARE(boxes(), QStringList({notOpened("database is locked")}));
         QVERIFY(windows().isEmpty());
         QCOMPARE(other.run("rollback"), QString());
         QVERIFY(dbManage(u"data.sqlite"));
+        QCOMPARE(boxes().size(), 1);
+    }
+
+    void aFileThatIsLockedLater() {
+        make(goods);
+        QVERIFY(dbManage(u"data.sqlite"));
+        managerTest::otherConnection other("data.sqlite");
+        QCOMPARE(other.run("begin exclusive"), QString());
+        QTest::keyClick(list(), Qt::Key_F5);
         QCOMPARE(boxes().size(), 2);
+        QVERIFY2(boxes()[0].contains("database is locked"), qPrintable(boxes()[0]));
+        QCOMPARE(boxes()[1], "warning [dbObjectsGet] [" + head("dbObjectsGet") +
+                                 "Ошибка при выполнении запроса: \n\nselect * from sqlite_master "
+                                 ";]");
+        // It shows what it showed.
+        QCOMPARE(shown(*list()).size(), 5);
+        QCOMPARE(list()->currentIndex().row(), 0);
+        QCOMPARE(other.run("rollback"), QString());
+        QTest::keyClick(list(), Qt::Key_F5);
+        QCOMPARE(list()->model()->index(0, 2).data().toString(), QString("3"));
     }
 
     void windowsOfAnotherFileDoNothing() {

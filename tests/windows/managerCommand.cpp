@@ -91,7 +91,7 @@ private slots:
         QVERIFY(answer.given());
         QVERIFY(lists().isEmpty());
         QCOMPARE(host_.calls, std::vector<std::string>(
-                                  {"warning [dbManage()] [Файл ../lib/Zakup200215.sqlite не "
+                                  {"warning [dbManage()] [Файл ..\\lib\\Zakup200215.sqlite не "
                                    "найден!]"}));
         QCOMPARE(inputLine(), prompt);
     }

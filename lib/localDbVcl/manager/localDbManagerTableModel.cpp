@@ -28,13 +28,16 @@ localDbManagerTableModel::localDbManagerTableModel(std::u16string connection, QO
 bool localDbManagerTableModel::read() {
     std::vector<localDbObject> objects;
     isRead_ = localDb::dbObjectsGet(connection_, objects);
+    if (!isRead_) {
+        return false;
+    }
     beginResetModel();
     rows_.clear();
     for (localDbObject& object : objects) {
         rows_.push_back({.object = std::move(object), .rowCount = {}});
     }
     endResetModel();
-    return isRead_;
+    return true;
 }
 
 void localDbManagerTableModel::countRows() {

@@ -24,7 +24,8 @@ public:
         return rows_[static_cast<std::size_t>(row)].object;
     }
 
-    // Reads the list anew; what was counted is forgotten. False after a box.
+    // Reads the list anew; what was counted is forgotten. False after a box, with the list as it
+    // was.
     bool read();
     // Reads the list anew and counts the rows of all tables.
     void countRows();
