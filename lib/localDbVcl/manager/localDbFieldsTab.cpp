@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 #include "localVCL/text/localVclText.h"
 #include "manager/localDbManagerLook.h"
 
@@ -190,7 +192,7 @@ void localDbFieldsTab::remove() {
 void localDbFieldsTab::move(int by) {
     localDb::Fields all = fields();
     const int row = table_->currentRow();
-    std::swap(all[static_cast<std::size_t>(row)], all[static_cast<std::size_t>(row + by)]);
+    std::iter_swap(all.begin() + row, all.begin() + row + by);
     rowsShow(all, row + by);
 }
 
