@@ -135,6 +135,7 @@ private slots:
         QCOMPARE(shownText(*shown, 6, 1), QString());
         QCOMPARE(shownText(*shown, 6, 0), QString());
         QCOMPARE(onScreen(*shown), QString("11111000"));
+        QCOMPARE(shown->fixedColWidth, 25);
         saveScreenshot(*shown, "gridValueTable");
     }
 
@@ -182,6 +183,9 @@ private slots:
         QCOMPARE(shown->dataSousceId(), 1000000);
         keys(*shown, {Qt::Key_Down});
         QCOMPARE(shown->firstRow, 1000000 - 20);
+        // Its number has room in front of it.
+        QVERIFY(shown->fixedColWidth > shown->fontMetrics().horizontalAdvance("1000000"));
+        QCOMPARE(shown->columns[0]->headButton->x(), shown->fixedColWidth);
         saveScreenshot(*shown, "gridMillion");
     }
 

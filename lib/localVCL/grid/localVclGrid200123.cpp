@@ -21,7 +21,6 @@ constexpr double pointsPerInch = 72;
 
 constexpr int statedCellMargin = 2;
 constexpr int statedRowHeight = 20;
-constexpr int statedFixedColWidth = 25;
 
 }  // namespace
 

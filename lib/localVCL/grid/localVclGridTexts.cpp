@@ -74,6 +74,7 @@ void localVclGrid200123::collectRequested() {
     if (self) {
         update(changed);
         cursorToRows();
+        fitRowHeads();
         if (const QRegion again = std::exchange(requested_, {}); !again.isEmpty()) {
             request(again);
         }
@@ -94,6 +95,17 @@ void localVclGrid200123::cursorToRows() {
     }
 }
 
+// The number of the last row has room in front of it.
+void localVclGrid200123::fitRowHeads() {
+    const QString last = rows_ == nullptr ? QString() : QString::number(rows_->count());
+    const int needed = fontMetrics().horizontalAdvance(last) + 2 * cellMargin;
+    if (const int width = std::max(scaled(statedFixedColWidth), needed); width != fixedColWidth) {
+        fixedColWidth = width;
+        reposition();
+        refresh();
+    }
+}
+
 // --- Making them
 
 // Gives what has changed. The grid may have gone when this returns.
@@ -101,7 +113,7 @@ QRegion localVclGrid200123::collect(const QRegion& region) {
     const Watch watch(*this);
     const auto keptRows = rows_;
     isCollecting_ = true;
-    const bool isWhole = region.boundingRect().contains(rect());
+    const bool isWhole = QRegion(rect()).subtracted(region).isEmpty();
     faultsBefore_ = faults_;
     Collected collected;
     if (isWhole) {

@@ -144,6 +144,8 @@ protected:
     // The keys in a menu, at a place of the screen.
     void openKeysMenu(const QPoint& place);
 
+    static constexpr int statedFixedColWidth = 25;
+
     QString searchText;
     bool selectMode = false;
     std::vector<std::unique_ptr<localVclGridColumn>> columns;
@@ -157,7 +159,7 @@ protected:
     unsigned firstCol = 0;
     RowNumber firstRow = 0;
     unsigned fixedCols = 1;
-    int fixedColWidth = 25;
+    int fixedColWidth = statedFixedColWidth;
     unsigned headRows = 1;
 
 protected slots:
@@ -219,6 +221,7 @@ private:
     void scopeFill();
     void scopeRenew(localContextUTF8* above);
     void cursorToRows();
+    void fitRowHeads();
     void variableFill(std::size_t column);
     void request(const QRegion& region);
     void collectRequested();
