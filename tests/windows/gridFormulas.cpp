@@ -187,6 +187,28 @@ private slots:
         QCOMPARE(text(*shown, 2, 1), QString());
     }
 
+    void columnsAndLayoutsBehindTheEndOfTheScope() {
+        auto shown = formulas(scope_.get(), u"ROWNUMBER");
+        const localTurn::Hold turn;
+        scope_.reset();
+        shown->addColumn(column("C", 50, u"C", u"ROWNUMBER+1"));
+        QCOMPARE(shown->cellText(2, 3), QString("3"));
+        const localValueDescription layout = shown->layoutAsValueListGet();
+        QVERIFY(shown->layoutReconfigureByJson(layout));
+        QCOMPARE(shown->cellText(2, 1), QString("2"));
+        QCOMPARE(shown->cellText(2, 3), QString("3"));
+    }
+
+    void formulaThatEndsTheScopeAbove() {
+        const outputCapture output;
+        auto shown = formulas(scope_.get(), u"FORMOPEN(\"\")", u"ROWNUMBER+1");
+        formulaWork = [&] { scope_.reset(); };
+        shown->refresh();
+        settle();
+        QVERIFY(scope_ == nullptr);
+        QCOMPARE(text(*shown, 2, 2), QString("3"));
+    }
+
     // --- Ends
 
     void slotsAndScopesComeBack() {

@@ -32,6 +32,11 @@ localValueDescription& localVclOwnVariable(localContextUTF8& scope, std::u16stri
 }
 
 bool localVclGridScope::evaluate(int& status, const std::u16string& expression, localSlot& value) {
+    // The formula before may have ended a scope above.
+    if (!stands()) {
+        status = localErrorTypeATTRIBUTEWRONG;
+        return false;
+    }
     status = localErrorTypeOK;
     localInterpretatorUTF8::localPosition position = 0;
     return localGuarded(status, "localVclGrid200123", [&] {

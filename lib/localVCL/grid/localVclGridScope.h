@@ -24,7 +24,8 @@ public:
     localValueDescription& variable(std::u16string_view name) {
         return localVclOwnVariable(context_, name);
     }
-    // False with a status for what is no expression or cannot be computed.
+    // False with a status for what is no expression or cannot be computed; 10 when a scope above
+    // has ended.
     bool evaluate(int& status, const std::u16string& expression, localSlot& value);
 
 private:

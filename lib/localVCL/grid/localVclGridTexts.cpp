@@ -20,7 +20,7 @@ void localVclGrid200123::scopeFill() {
 }
 
 void localVclGrid200123::variableFill(std::size_t column) {
-    if (const std::u16string& id = columns[column]->id; !id.empty()) {
+    if (const std::u16string& id = columns[column]->id; !id.empty() && scope_->stands()) {
         scope_->variable(id).setVal(static_cast<double>(column + 1));
     }
 }
@@ -32,6 +32,9 @@ void localVclGrid200123::scopeRenew(localContextUTF8* above) {
 
 localContextUTF8* localVclGrid200123::context() {
     if (!scope_->stands()) {
+        if (localContextUTF8::globalContext == nullptr) {
+            return nullptr;
+        }
         scopeRenew(nullptr);
     }
     return &scope_->context();
@@ -152,6 +155,9 @@ bool localVclGrid200123::collectRow(unsigned row, const QRegion& region, Collect
     QRect changed;
     for (unsigned column = 0; watch.stands() && column <= lastColumn(); ++column) {
         const QRect cell = cellRectangle(row, column);
+        if (cell.left() > region.boundingRect().right()) {
+            break;
+        }
         if (!region.intersects(cell)) {
             continue;
         }
@@ -186,11 +192,14 @@ bool localVclGrid200123::enterRow(RowNumber row) {
     if (!isInLanguage()) {
         return true;
     }
-    localContextUTF8& scope = *context();
+    localContextUTF8* const scope = context();
+    if (scope == nullptr) {
+        return false;
+    }
     // Counted as on the screen: the first row behind the head has its row number there.
     scope_->variable(u"ROWNUMBER").setVal(static_cast<double>(row + headRows));
     if (rows_ != nullptr) {
-        rows_->putVariables(scope);
+        rows_->putVariables(*scope);
     }
     return computeFormulas(row);
 }

@@ -66,13 +66,14 @@ QString localVclTestWidgetValueTable200617::rowText(RowNumber row, int column) {
 }
 
 void localVclTestWidgetValueTable200617::mousePressEvent(QMouseEvent* event) {
-    traceLine({u"this->dataSousceId=[ ", localVclText(QString::number(dataSousceId())), u"] "},
-              "mousePressEvent");
+    const QString id = QString::number(dataSousceId());
     if (event->button() == Qt::RightButton) {
         openLayoutDialog();
     } else {
         localVclGrid200123::mousePressEvent(event);
     }
+    // Last, since a line lets events through and the window may close.
+    traceLine({u"this->dataSousceId=[ ", localVclText(id), u"] "}, "mousePressEvent");
 }
 
 // The right button opens the layout; the list of keys comes by the keyboard alone.

@@ -44,7 +44,9 @@ localValueTable* localVclValueTableRows::table() const {
     if (kept_ != nullptr) {
         return localValueTable::of(*kept_);
     }
-    const localVariableEntry* const variable = scope_()->varFind(variableName_);
+    localContextUTF8* const scope = scope_();
+    const localVariableEntry* const variable =
+        scope == nullptr ? nullptr : scope->varFind(variableName_);
     return variable == nullptr ? nullptr : localValueTable::of(*variable->value);
 }
 

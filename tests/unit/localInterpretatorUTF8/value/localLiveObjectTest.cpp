@@ -40,6 +40,20 @@ TEST(localLiveObject, anObjectIsFoundByItsKindOnly) {
     EXPECT_FALSE(localLiveObject::stands(&form.title[1], Kind::form));
 }
 
+TEST(localLiveObject, anObjectIsToldFromTheOneBeforeAtItsAddress) {
+    alignas(Form) unsigned char place[sizeof(Form)];
+    auto* form = new (place) Form;
+    const std::uint64_t first = localLiveObject::number(place, Kind::form);
+    EXPECT_NE(first, 0U);
+    EXPECT_EQ(localLiveObject::number(place, Kind::form), first);
+    EXPECT_EQ(localLiveObject::number(place, Kind::scope), 0U);
+    form->~Form();
+    EXPECT_EQ(localLiveObject::number(place, Kind::form), 0U);
+    form = new (place) Form;
+    EXPECT_GT(localLiveObject::number(place, Kind::form), first);
+    form->~Form();
+}
+
 TEST(localLiveObject, manyObjectsGoInAnyOrder) {
     const std::size_t before = localLiveObject::count();
     std::vector<std::unique_ptr<Form>> forms;
