@@ -82,6 +82,8 @@ void localVclGrid200123::sizesByFont() {
     for (const auto& column : columns) {
         column->headButton->setSize(headWidth(*column), rowHeight);
     }
+    reposition();
+    refresh();
 }
 
 int localVclGrid200123::scaled(int pixels) const {
@@ -177,8 +179,6 @@ void localVclGrid200123::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         sizesByFont();
-        reposition();
-        refresh();
     }
 }
 

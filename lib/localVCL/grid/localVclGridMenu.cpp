@@ -53,6 +53,9 @@ bool localVclGrid200123::event(QEvent* event) {
             QToolTip::showText(help->globalPos(), cutTextAt(help->pos()), this);
             return true;
         }
+        case QEvent::ScreenChangeInternal:
+            sizesByFont();
+            break;
         default:
             break;
     }
