@@ -290,6 +290,24 @@ private slots:
         QVERIFY2(opened <= 3 * 5, qPrintable(QString::number(opened)));
         QCOMPARE(text(*shown, 2, 2), QString("8"));
     }
+
+    // The same while cells are copied.
+    void boxWhileCellsAreCopied() {
+        setVariable(*scope_, u"K", 1);
+        auto shown = formulas(scope_.get(), u"K+0*FORMOPEN(\"\")");
+        formulaWork = [&] {
+            formulaWork = nullptr;
+            shown->refresh();
+            settle();
+        };
+        QCOMPARE(copied(*shown, 2, 1), QString("1"));
+        const QRect cell = shown->cellRectangle(3, 1);
+        const QImage before = shown->grab(cell).toImage();
+        setVariable(*scope_, u"K", 7777);
+        shown->refresh();
+        settle();
+        QVERIFY(shown->grab(cell).toImage() != before);
+    }
 };
 
 QTEST_MAIN(gridFormulas)

@@ -524,19 +524,23 @@ private slots:
             return localValueList::counterStaticTotal;
         };
         const auto before = lists();
-        {
-            const localTurn::Hold turn;
-            table().cell(0, 0).objectBind(new localValueList, localValueList::classDeclaration());
-            table().cell(1, 0).objectBind(new localValueList, localValueList::classDeclaration());
+        for (const bool isAsked : {false, true}) {
+            {
+                const localTurn::Hold turn;
+                table().cell(0, 0).objectBind(new localValueList,
+                                              localValueList::classDeclaration());
+            }
+            shown->refresh();
+            settle();
+            if (isAsked) {
+                QVERIFY(shownText(*shown, 1, 1).startsWith("Список значений"));
+            }
+            {
+                const localTurn::Hold turn;
+                table().cell(0, 0).reset();
+            }
+            QCOMPARE(lists(), before);
         }
-        shown->refresh();
-        settle();
-        QVERIFY(shownText(*shown, 1, 1).startsWith("Список значений"));
-        {
-            const localTurn::Hold turn;
-            table().clear();
-        }
-        QCOMPARE(lists(), before);
     }
 };
 

@@ -108,6 +108,7 @@ void localVclGrid200123::copyCells(const Cell& one, const Cell& other) {
     if (!watch.isGone()) {
         isCollecting_ = false;
         leaveRow();
+        requestAgain();
     }
     if (watch.stands()) {
         QApplication::clipboard()->setText(lines.join(u'\n'));

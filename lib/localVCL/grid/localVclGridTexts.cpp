@@ -78,9 +78,14 @@ void localVclGrid200123::collectRequested() {
         update(changed);
         cursorToRows();
         fitRowHeads();
-        if (const QRegion again = std::exchange(requested_, {}); !again.isEmpty()) {
-            request(again);
-        }
+        requestAgain();
+    }
+}
+
+// What was asked for while the grid was at work in the language.
+void localVclGrid200123::requestAgain() {
+    if (const QRegion again = std::exchange(requested_, {}); !again.isEmpty()) {
+        request(again);
     }
 }
 

@@ -224,6 +224,7 @@ private:
     void fitRowHeads();
     void variableFill(std::size_t column);
     void request(const QRegion& region);
+    void requestAgain();
     void collectRequested();
     QRegion collect(const QRegion& region);
     bool collectRow(unsigned row, const QRegion& region, Collected& collected);
