@@ -108,8 +108,8 @@ class gridValueTable : public consoleTest::test {
         return localValueTable::counterStaticTotal;
     }
 
-    const QByteArray layout_ = json(
-        "{'grid':{'columns':[{'id':'A','caption':'Первая','width':80}],'dataSource':{'varName':'t'}}}");
+    const QByteArray layout_ = json("{'grid':{'columns':[{'id':'A','caption':'Первая','width':80}],"
+                                    "'dataSource':{'varName':'t'}}}");
 
 protected slots:
     void cleanup() {
