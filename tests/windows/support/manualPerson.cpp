@@ -28,6 +28,7 @@
 #include "localVCL/dialog/localVclListDialog.h"
 #include "localVCL/editor/localDialogFindString.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
+#include "localVCL/grid/localVclGrid200123.h"
 
 namespace {
 
@@ -86,6 +87,7 @@ const QMap<QString, bool (*)(QWidget&)> windowKinds = {
     {"календаря", holds<localCalendar>},
     {"картинки", isPicture},
     {"поиска", holds<localDialogFindString>},
+    {"просмотра", holds<localVclGrid200123>},
     {"редактора", holds<localVclWidgetEditor>},
     {"руководства", holds<localConsoleHelpBrowser>},
     {"сообщения", holds<QMessageBox>},
@@ -135,6 +137,13 @@ QStringList linesOf(QWidget& window) {
             lines += QString("%1 на %2 точек").arg(picture.width()).arg(picture.height());
         } else if (auto* const calendar = qobject_cast<const QCalendarWidget*>(widget)) {
             lines += calendar->selectedDate().toString("yyyyMMdd");
+        }
+    }
+    for (auto* const grid : window.findChildren<localVclGrid200123*>()) {
+        for (unsigned row = 1; row < grid->visibleRows(); ++row) {
+            for (unsigned column = 1; column <= grid->columnsCount(); ++column) {
+                lines += grid->cellText(row, column);
+            }
         }
     }
     return lines;
