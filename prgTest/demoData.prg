@@ -32,11 +32,11 @@ BASE64APPENDTOFILE("", "demo.sqlite");
     Выполнить("create index "+имя+"_PDESCR on "+имя+" (parentid, isfolder, descr)");
 КОНЕЦПРОЦЕДУРЫ;
 
-Справочник("Ref01", ", Owner INT(18)");                                          // прайс
 Справочник("Ref03", ", CenaK NUME(14,2), Art CHAR(20), KoefMin NUME(8,2)");     // товары
 Справочник("Ref02", ", Owner INT(18), Price NUME(14,2)");                       // цены товаров
 Справочник("Ref04", ", INN CHAR(12)");                                          // партнеры
 Справочник("Ref05", ", Element INT(18), Analog INT(18)");                       // аналоги товаров
+Справочник("Ref01", ", Owner INT(18)");                                          // прайс
 
 ФУНКЦИЯ Код(номер)
     ПЕРЕМЕННАЯ нули = "000000"+СТРОКА(номер);

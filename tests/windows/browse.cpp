@@ -63,7 +63,8 @@ private slots:
 
     void aTableAloneHasItsFieldsAsColumns() {
         makeGoods(3);
-        sql("create table \"a b\" (id INTEGER PRIMARY KEY, \"a-b\" CHAR(9), \"в \"\"кавычках\" INT)");
+        sql("create table \"a b\" (id INTEGER PRIMARY KEY, \"a-b\" CHAR(9),"
+            " \"в \"\"кавычках\" INT)");
         sql("insert into \"a b\" values (7, 'x', 5)");
         sql("create index ab on \"a b\"(\"a-b\")");
         Browse grid(connectionName, u"\"a b\"", Purpose::look);
