@@ -49,6 +49,8 @@ public:
 
     // Makes the file anew and opens it.
     void make(const std::string& sql) {
+        // An open one would stay open on the file that goes.
+        connection->database().close();
         std::remove(fileName);
         sqliteProgram(fileName, sql);
         ASSERT_TRUE(localDbConnection::open(name, wide(fileName)));
