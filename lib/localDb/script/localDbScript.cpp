@@ -41,7 +41,7 @@ bool localDbTestMethod(localCall& call) {
     return sample >= 1 && sample < 5 ? localBroughtFromAbove(call) : call.giveBoolean(false);
 }
 
-void* localDbNoConstructor() {
+void* localDbNoConstructor(localContextUTF8*) {
     traceLine(u"localDataBaseTable::classImplementationMethodFunction() constructor unuseable!",
               "classImplementationMethodFunction");
     return nullptr;

@@ -18,7 +18,7 @@ bool localDbAttributeRead(int& status, localContextUTF8& scope, std::u16string_v
 bool localDbTestMethod(localCall& call);
 
 // A native type whose objects programs only get. Its constructor says so, and makes none.
-void* localDbNoConstructor();
+void* localDbNoConstructor(localContextUTF8* context);
 template <class Native>
 constexpr localNativeType localDbGivenOnly() {
     localNativeType type = localNativeOf<Native>();

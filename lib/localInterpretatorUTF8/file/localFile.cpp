@@ -59,6 +59,41 @@ std::u16string decodedLines(std::string_view bytes, localString::possibleCodePag
     return text += localString::fromBytes(bytes, codePage);
 }
 
+enum class Settled { laterBySystem, onDisk };
+
+bool writeBytes(std::u16string_view name, const char* mode, std::string_view bytes,
+                Settled settled = Settled::laterBySystem) {
+    FileHandle file = opened(name, mode);
+    if (file == nullptr) {
+        return false;
+    }
+    bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    if (written && settled == Settled::onDisk) {
+        written = std::fflush(file.get()) == 0 && localPlatform::flushToDisk(fileno(file.get()));
+    }
+    return std::fclose(file.release()) == 0 && written;
+}
+
+// Writes beside the file first, so that a full disk or the end of the process in the middle leaves
+// the old file whole.
+bool replaceBytes(std::u16string_view name, const char* mode, std::string_view bytes) {
+    const std::u16string target = localPlatform::plainFile(name);
+    if (target.empty()) {
+        return writeBytes(name, mode, bytes);
+    }
+    // Who may not write the file may not replace it, either.
+    if (localPlatform::pathExists(target) && opened(target, "ab") == nullptr) {
+        return false;
+    }
+    const std::u16string beside = target + u".new";
+    if (writeBytes(beside, mode, bytes, Settled::onDisk) &&
+        localPlatform::replaceFile(target, beside)) {
+        return true;
+    }
+    localPlatform::removeFile(beside);
+    return false;
+}
+
 }  // namespace
 
 bool fileRead(std::u16string_view fileName, std::u16string& text,
@@ -107,12 +142,9 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::
     const std::string bytes = localString::toBytes(text, codePage);
     const std::string how = (mode == FileWriteMode::append ? "a" : "w") +
                             std::string(codePage == localString::codePageBase64 ? "b" : "");
-    FileHandle file = opened(fileName, how.c_str());
-    bool written = file != nullptr;
-    if (written) {
-        written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-        written = std::fclose(file.release()) == 0 && written;
-    }
+    const bool written = mode == FileWriteMode::replace
+                             ? replaceBytes(fileName, how.c_str(), bytes)
+                             : writeBytes(fileName, how.c_str(), bytes);
     if (!written) {
         const localReport failure{.kind = localReport::Kind::critical,
                                   .title = u"save",

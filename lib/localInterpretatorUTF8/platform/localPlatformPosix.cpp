@@ -187,6 +187,33 @@ std::optional<FileIdentity> fileIdentity(std::u16string_view name) {
     return FileIdentity{facts.st_dev, facts.st_ino};
 }
 
+std::u16string plainFile(std::u16string_view name) {
+    std::string path;
+    struct stat facts {};
+    if (!systemPath(name, path) || stat(path.c_str(), &facts) != 0) {
+        return std::u16string(name);
+    }
+    if (!S_ISREG(facts.st_mode)) {
+        return {};
+    }
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr),
+                                                           &std::free);
+    return real == nullptr ? std::u16string(name) : fileNameFromBytes(real.get());
+}
+
+bool replaceFile(std::u16string_view name, std::u16string_view by) {
+    std::string path;
+    std::string byPath;
+    if (!systemPath(name, path) || !systemPath(by, byPath)) {
+        return false;
+    }
+    struct stat facts {};
+    if (stat(path.c_str(), &facts) == 0 && chmod(byPath.c_str(), facts.st_mode & 07777) != 0) {
+        return false;
+    }
+    return rename(byPath.c_str(), path.c_str()) == 0;
+}
+
 bool flushToDisk(int descriptor) {
     int result = 0;
     do {

@@ -79,6 +79,18 @@ std::optional<FileIdentity> fileIdentity(std::u16string_view name) {
                         std::uint64_t{facts.nFileIndexHigh} << 32 | facts.nFileIndexLow};
 }
 
+std::u16string plainFile(std::u16string_view name) {
+    const DWORD facts = GetFileAttributesA(systemPath(name).c_str());
+    const bool isOther = facts != INVALID_FILE_ATTRIBUTES &&
+                         (facts & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) != 0;
+    return isOther ? std::u16string() : std::u16string(name);
+}
+
+bool replaceFile(std::u16string_view name, std::u16string_view by) {
+    return MoveFileExA(systemPath(by).c_str(), systemPath(name).c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
 bool flushToDisk(int descriptor) {
     return _commit(descriptor) == 0;
 }

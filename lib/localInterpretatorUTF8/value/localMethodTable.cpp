@@ -93,7 +93,7 @@ bool localTableMethod(const localClassTable& table, localClassDeclaration* decla
             status = localErrorTypeSTATICCALL;
             return false;
         }
-        object = table.native.construct == nullptr ? nullptr : table.native.construct();
+        object = table.native.construct == nullptr ? nullptr : table.native.construct(context);
         if (object == nullptr) {
             status = localErrorTypeNOCONSTRUCTOR;
             return false;

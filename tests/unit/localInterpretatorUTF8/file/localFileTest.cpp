@@ -151,7 +151,8 @@ TEST_F(localFileTest, whatCannotBeWrittenShowsTheBox) {
     EXPECT_TRUE(host.calls.empty()) << "an empty name only gives false";
 
     std::filesystem::create_directory("folder");
-    for (const FileWriteMode mode : {FileWriteMode::truncate, FileWriteMode::append}) {
+    for (const FileWriteMode mode :
+         {FileWriteMode::truncate, FileWriteMode::append, FileWriteMode::replace}) {
         for (const char16_t* name : {u"folder", u"no/such/file", u"/proc/nothing", u"/dev/full"}) {
             host.calls.clear();
             EXPECT_FALSE(fileWrite(mode, codePageUtf8, u"text", name)) << utf8(name);
@@ -163,6 +164,37 @@ TEST_F(localFileTest, whatCannotBeWrittenShowsTheBox) {
                 << utf8(name);
         }
     }
+}
+
+TEST_F(localFileTest, replacingPutsANewFileInThePlaceOfTheOld) {
+    EXPECT_TRUE(fileWrite(FileWriteMode::replace, codePageUtf8, u"first", u"file.txt"));
+    EXPECT_EQ(bytesOf("file.txt"), "first");
+    namespace fs = std::filesystem;
+    fs::permissions("file.txt", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_hard_link("file.txt", "old.txt");
+    EXPECT_TRUE(fileWrite(FileWriteMode::replace, codePageUtf8, u"second", u"file.txt"));
+    EXPECT_EQ(bytesOf("file.txt"), "second");
+    EXPECT_EQ(bytesOf("old.txt"), "first") << "the old file was not written into";
+    EXPECT_EQ(fs::status("file.txt").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+
+    fs::create_symlink("file.txt", "link.txt");
+    EXPECT_TRUE(fileWrite(FileWriteMode::replace, codePageUtf8, u"third", u"link.txt"));
+    EXPECT_TRUE(fs::is_symlink("link.txt"));
+    EXPECT_EQ(bytesOf("file.txt"), "third");
+    EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), 3) << "nothing is left beside them";
+    EXPECT_TRUE(host.calls.empty());
+}
+
+TEST_F(localFileTest, whatCannotBeReplacedStays) {
+    put("file.txt", "old");
+    // The place of the new file is taken by a folder.
+    std::filesystem::create_directory("file.txt.new");
+    EXPECT_FALSE(fileWrite(FileWriteMode::replace, codePageUtf8, u"new", u"file.txt"));
+    EXPECT_EQ(bytesOf("file.txt"), "old");
+    EXPECT_THAT(host.calls, ElementsAre("cursor arrow",
+                                        StartsWith("critical [save] [Ошибка записи файла "
+                                                   "[file.txt]\n"),
+                                        "cursor restored"));
 }
 
 TEST_F(localFileTest, aFullDeviceIsNoticedForLongTextsToo) {

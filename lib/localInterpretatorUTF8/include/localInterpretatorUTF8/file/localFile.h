@@ -19,7 +19,11 @@ bool fileRead(std::u16string_view fileName, std::u16string& text,
 bool loadFileToText(int& status, std::u16string_view fileName, std::u16string& text,
                     std::u16string_view codePageName);
 
-enum class FileWriteMode { append, truncate };
+enum class FileWriteMode {
+    append,
+    truncate,
+    replace,  // by a new file, written beside it first: a failure leaves the old one as it was
+};
 
 // Writes a text in a code page; code page 1 decodes it from base64. An empty name gives false. A
 // file that cannot be opened or written gives false after the host's critical box "save".

@@ -42,6 +42,13 @@ struct FileIdentity {
 // Empty when there is no such file.
 std::optional<FileIdentity> fileIdentity(std::u16string_view name);
 
+// The file that a name leads to, over links. The name itself where there is none; empty for what is
+// no file with content of its own, such as a folder or a device.
+std::u16string plainFile(std::u16string_view name);
+// Puts a file in the place of another, if there is one, and gives it that one's permissions: at
+// every moment one of the two stands there whole. False when it could not; both stay.
+bool replaceFile(std::u16string_view name, std::u16string_view by);
+
 // Waits until what was written to an open file has reached the disk. False when it could not.
 bool flushToDisk(int descriptor);
 

@@ -109,19 +109,22 @@ bool localHandlerRun(localCall& call, std::string_view pattern, localHandler han
 
 // What a table needs to know of the native type behind a class.
 struct localNativeType {
-    // A new object with count 0. Null where a program makes none, or gives null: status 11.
-    void* (*construct)();
+    // A new object with count 0, made in a context. Null where a program makes none, or gives null:
+    // status 11.
+    void* (*construct)(localContextUTF8* context);
     void (*destroy)(void* object);  // of the last cell that held it
     localLinkFunction link;         // null: objects are not counted and never destroyed
 };
 
 // Of a type whose objects count the cells that hold them in their member linkCounter. Programs make
-// objects of those that can be made of nothing.
+// objects of those that can be made of the context of the call, or of nothing.
 template <class Native>
 constexpr localNativeType localNativeOf() {
     localNativeType type{};
-    if constexpr (std::is_default_constructible_v<Native>) {
-        type.construct = []() -> void* { return new Native; };
+    if constexpr (std::is_constructible_v<Native, localContextUTF8*>) {
+        type.construct = [](localContextUTF8* context) -> void* { return new Native(context); };
+    } else if constexpr (std::is_default_constructible_v<Native>) {
+        type.construct = [](localContextUTF8*) -> void* { return new Native; };
     }
     type.destroy = [](void* object) { delete static_cast<Native*>(object); };
     type.link = [](void** object, std::int64_t delta) -> std::int64_t {

@@ -1,0 +1,61 @@
+// The cells of a sheet in their order, found by their place.
+//
+// The order is what texts and searches see: the default cell, then row by row. Cells that were read
+// from a text keep the text's order, whatever their places, and several may have one place: a
+// lookup finds the first of them. A new cell goes before the first one behind its place.
+//
+// The order is a list and the places are a tree over it, so that a lookup or a new cell costs the
+// logarithm of the number of cells wherever it stands, and cells never move: an address of a cell
+// holds until all are cleared.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <list>
+#include <map>
+
+#include "localSxl/sheet/localSxlCell.h"
+
+class localSxlCells {
+public:
+    // The default cell alone, with a format of the given kind.
+    explicit localSxlCells(const localSxlCellFormat& format = {});
+    localSxlCells(const localSxlCells&) = delete;
+    localSxlCells& operator=(const localSxlCells&) = delete;
+
+    void swap(localSxlCells& other) noexcept;
+
+    // All cells in order; the default cell is the first.
+    const std::list<localSxlCell>& all() const { return cells_; }
+    localSxlCell& defaultCell() { return cells_.front(); }
+    const localSxlCell& defaultCell() const { return cells_.front(); }
+
+    // The first cell of that place; null when there is none.
+    const localSxlCell* find(localSxlPlace place) const;
+    localSxlCell* find(localSxlPlace place);
+    localSxlCell& findOrInsert(localSxlPlace place);
+    // Behind all others.
+    void append(localSxlCell cell);
+
+    // The first cell at a place or behind it, by place; null when there is none.
+    const localSxlCell* findFrom(localSxlPlace place) const;
+    // The last row and the last column that hold a cell; 0 when there is none.
+    std::uint32_t lastRow() const { return tree_.rbegin()->first.row; }
+    std::uint32_t lastColumn() const { return lastColumn_; }
+
+    // Places compared so far.
+    std::int64_t comparedCount() const { return tree_.key_comp().compared; }
+
+private:
+    struct Before {
+        mutable std::int64_t compared = 0;
+        bool operator()(const localSxlPlace& a, const localSxlPlace& b) const {
+            ++compared;
+            return a.order() < b.order();
+        }
+    };
+
+    std::list<localSxlCell> cells_;
+    std::map<localSxlPlace, std::list<localSxlCell>::iterator, Before> tree_;
+    std::uint32_t lastColumn_ = 0;
+};
