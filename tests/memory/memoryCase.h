@@ -30,6 +30,8 @@ std::vector<memoryCase> functionCases();
 std::vector<memoryCase> memberCases();
 // The same of the classes of the data file, which has a table Goods.
 std::vector<memoryCase> databaseCases();
+// Those of the class TABLEDOCUMENT.
+std::vector<memoryCase> sheetCases();
 // Kinds of statement.
 std::vector<memoryCase> statementCases();
 // Typed lines.

@@ -11,6 +11,10 @@
 #include "localInterpretatorUTF8/platform/localPlatform.h"
 #include "localInterpretatorUTF8/value/localCounters.h"
 #include "localInterpretatorUTF8/value/localMemoryManager.h"
+#ifdef KORVO_SHEETS
+#include "localSxl/json/localSxlText.h"
+#include "localSxl/sheet/localSxlSheet.h"
+#endif
 
 namespace {
 
@@ -46,6 +50,23 @@ std::string ofTable(const localValueTable& table, int depth) {
     return text;
 }
 
+#ifdef KORVO_SHEETS
+std::string ofSheet(const localSxlSheet& sheet) {
+    int status = localErrorTypeOK;
+    localText json;
+    localSxlToJson(status, sheet, json);
+    std::string text = utf8(json) + " saved as " + utf8(sheet.fileName()) + " rows of " +
+                       std::to_string(sheet.rowHeight(1)) + " columns";
+    for (const auto& [column, width] : sheet.columnWidths()) {
+        text += " " + std::to_string(column) + ":" + std::to_string(width);
+    }
+    for (const localSxlCell& cell : sheet.cells().all()) {
+        text += cell.image == nullptr ? "" : " picture " + std::to_string(cell.image->width());
+    }
+    return text;
+}
+#endif
+
 }  // namespace
 
 std::string memoryStateOf(const localValueDescription& value, int depth) {
@@ -65,6 +86,11 @@ std::string memoryStateOf(const localValueDescription& value, int depth) {
     if (const localValueTable* table = localValueTable::of(value)) {
         return text + ofTable(*table, depth);
     }
+#ifdef KORVO_SHEETS
+    if (const localSxlSheet* sheet = localSxlSheet::of(value)) {
+        return text + ofSheet(*sheet);
+    }
+#endif
     if (isClass(value, *localClassForTest::classDeclaration())) {
         text += std::to_string(static_cast<const localClassForTest*>(value.pointer)->attribInt);
     }

@@ -39,6 +39,10 @@
 #include "localDb/script/localDataBaseTable.h"
 #include "localInterpretatorUTF8/text/localString.h"
 #endif
+#ifdef KORVO_SHEETS
+#include "localSxl/script/localSxlExtension.h"
+#include "localSxl/sheet/localSxlSheet.h"
+#endif
 
 namespace {
 
@@ -149,6 +153,9 @@ protected:
         // Classes are made at their first use.
         localDateTime::classDeclaration();
         localClassForTest::classDeclaration();
+#ifdef KORVO_SHEETS
+        localExtensionAdd(localSxlExtension);
+#endif
         localSlot::reserve();
     }
 
@@ -323,6 +330,14 @@ INSTANTIATE_TEST_SUITE_P(function, memoryTest, testing::ValuesIn(functionCases()
 INSTANTIATE_TEST_SUITE_P(member, memoryTest, testing::ValuesIn(memberCases()), testName);
 INSTANTIATE_TEST_SUITE_P(statement, memoryTest, testing::ValuesIn(statementCases()), testName);
 INSTANTIATE_TEST_SUITE_P(line, memoryTest, testing::ValuesIn(lineCases()), testName);
+
+#ifdef KORVO_SHEETS
+INSTANTIATE_TEST_SUITE_P(sheet, memoryTest, testing::ValuesIn(sheetCases()), testName);
+
+TEST(memoryCases, everyMemberOfSheetsHasOne) {
+    expectACaseForEachMember({localSxlSheet::classDeclaration()}, sheetCases());
+}
+#endif
 
 // What a process makes at its first use: the store, the global context, tables of names, classes.
 constexpr std::string_view firstProgram =

@@ -142,9 +142,8 @@ bool fileWrite(FileWriteMode mode, localString::possibleCodePage codePage, std::
     const std::string bytes = localString::toBytes(text, codePage);
     const std::string how = (mode == FileWriteMode::append ? "a" : "w") +
                             std::string(codePage == localString::codePageBase64 ? "b" : "");
-    const bool written = mode == FileWriteMode::replace
-                             ? replaceBytes(fileName, how.c_str(), bytes)
-                             : writeBytes(fileName, how.c_str(), bytes);
+    const bool written = mode == FileWriteMode::replace ? replaceBytes(fileName, how.c_str(), bytes)
+                                                        : writeBytes(fileName, how.c_str(), bytes);
     if (!written) {
         const localReport failure{.kind = localReport::Kind::critical,
                                   .title = u"save",

@@ -149,7 +149,15 @@ private:
 };
 
 void appendNumber(localValueList& list, std::u16string_view key, double value) {
-    list.valueAppend(value, key);
+    list.itemAppend(key).setVal(value);
+}
+
+// The item is there before its list, so that memory that runs out between leaves no list behind.
+localValueList& appendList(localValueList& list, std::u16string_view key) {
+    localValueDescription& value = list.itemAppend(key);
+    auto* const made = new localValueList;
+    value.objectBind(made, localValueList::classDeclaration());
+    return *made;
 }
 
 }  // namespace
@@ -168,26 +176,25 @@ bool localSxlToJson(int& status, const localSxlSheet& sheet, localText& text) {
 void localSxlToValueList(const localSxlSheet& sheet, localValueList& list) {
     constexpr localSxlCellFormat none = {0, 0, 0, 0, 0, 0, 0, 0};
     list.valueAppend(localText(u"SXL"), u"type");
-    list.valueAppend(new localValueList, u"columns");
-    list.valueAppend(new localValueList, u"rows");
-    auto* const cells = new localValueList;
-    list.valueAppend(cells, u"cells");
+    appendList(list, u"columns");
+    appendList(list, u"rows");
+    localValueList& cells = appendList(list, u"cells");
     std::size_t index = 0;
     for (const localSxlCell& cell : sheet.cells().all()) {
-        auto* const item = new localValueList;
-        cells->valueAppend(item, u"cell [" + localString::fromUtf8(std::to_string(index++)) + u"]");
+        localValueList& item =
+            appendList(cells, u"cell [" + localString::fromUtf8(std::to_string(index++)) + u"]");
         const localSxlCellFormat& format = cell.format == nullptr ? none : *cell.format;
-        appendNumber(*item, u"rowNumber", cell.place.row);
-        appendNumber(*item, u"colNumber", cell.place.column);
-        item->valueAppend(cell.text, u"text");
-        item->valueAppend(cell.details, u"details");
-        appendNumber(*item, u"colorBorder", format.colorBorder);
-        appendNumber(*item, u"colorFon", format.colorFon);
-        appendNumber(*item, u"colorPattern", format.colorPattern);
-        appendNumber(*item, u"colorText", format.colorText);
-        appendNumber(*item, u"alignmentH", format.alignmentH);
-        appendNumber(*item, u"alignmentV", format.alignmentV);
-        appendNumber(*item, u"height", format.height);
-        appendNumber(*item, u"width", format.width);
+        appendNumber(item, u"rowNumber", cell.place.row);
+        appendNumber(item, u"colNumber", cell.place.column);
+        item.valueAppend(cell.text, u"text");
+        item.valueAppend(cell.details, u"details");
+        appendNumber(item, u"colorBorder", format.colorBorder);
+        appendNumber(item, u"colorFon", format.colorFon);
+        appendNumber(item, u"colorPattern", format.colorPattern);
+        appendNumber(item, u"colorText", format.colorText);
+        appendNumber(item, u"alignmentH", format.alignmentH);
+        appendNumber(item, u"alignmentV", format.alignmentV);
+        appendNumber(item, u"height", format.height);
+        appendNumber(item, u"width", format.width);
     }
 }

@@ -90,14 +90,20 @@ bool cellFontSet(localCall& call) {
     return call.done();
 }
 
+QImage imageOf(std::u16string_view base64) {
+    if (base64.empty()) {
+        return {};
+    }
+    return QImage::fromData(QByteArray::fromBase64(QStringView(base64).toLatin1()));
+}
+
 // A text that is no picture leaves the cell without one.
 bool cellPixmapAsBase64Set(localCall& call) {
     localSxlPlace place;
     if (!placeRead(call, place)) {
         return false;
     }
-    const QByteArray text = QStringView(call.text(2)).toLatin1();
-    sheetOf(call).cellImageSet(place, QImage::fromData(QByteArray::fromBase64(text)));
+    sheetOf(call).cellImageSet(place, imageOf(call.text(2)));
     return call.done();
 }
 

@@ -21,9 +21,10 @@
 #include "localProgramHost.h"
 #include "localTestFile.h"
 
-#ifdef KORVO_DATABASE
+#ifdef KORVO_ABOVE
 #include "localDb/localDb.h"
 #include "localDb/localDbExtension.h"
+#include "localSxl/script/localSxlExtension.h"
 #include "localToolkit/localToolkitApplication.h"
 #endif
 
@@ -186,9 +187,10 @@ std::string readAll(int descriptor) {
     ::alarm(longestRunSeconds);
     // The log lies where the process was started; its folder is this copy.
     localStd::startDirectory();
-#ifdef KORVO_DATABASE
+#ifdef KORVO_ABOVE
     localToolkitApplication();
     localExtensionAdd(localDbExtension);
+    localExtensionAdd(localSxlExtension);
     localDb::applicationSetDataFullFileName(u"data.sqlite");
 #endif
     localProgramHost host([reportTo, &name](const std::string& message) {

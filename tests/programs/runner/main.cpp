@@ -2,7 +2,7 @@
 // below a folder, or on those whose path below it holds one of the parts, and compares with what
 // they say is wanted. Files in folders called `data` belong to other programs, and `runner` holds
 // this one. Reports name a file as a path that begins with the folder's own name. The form of this
-// program that has the database library takes data.sqlite for the data file.
+// program that has the libraries above takes data.sqlite for the data file.
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
