@@ -16,39 +16,41 @@ void localSxlCells::swap(localSxlCells& other) noexcept {
 }
 
 const localSxlCell* localSxlCells::find(localSxlPlace place) const {
-    const auto found = tree_.find(place);
-    return found == tree_.end() ? nullptr : &*found->second;
+    const auto found = tree_.findFrom(place.order());
+    return found.entry != nullptr && found.order == place.order() ? &**found.entry : nullptr;
 }
 
 localSxlCell* localSxlCells::find(localSxlPlace place) {
-    const auto found = tree_.find(place);
-    return found == tree_.end() ? nullptr : &*found->second;
+    return const_cast<localSxlCell*>(std::as_const(*this).find(place));
 }
 
 localSxlCell& localSxlCells::findOrInsert(localSxlPlace place) {
-    const auto next = tree_.lower_bound(place);
-    if (next != tree_.end() && next->first == place) {
-        return *next->second;
+    const auto next = tree_.findFrom(place.order());
+    if (next.entry != nullptr && next.order == place.order()) {
+        return **next.entry;
     }
-    std::list<localSxlCell> made(1);
+    const auto before = next.entry == nullptr ? cells_.end() : *next.entry;
+    Cells made(1);
     made.front().place = place;
-    tree_.emplace_hint(next, place, made.begin());
-    cells_.splice(next == tree_.end() ? cells_.end() : next->second, made);
+    tree_.insert(place.order(), made.begin());
+    cells_.splice(before, made);
     lastColumn_ = std::max(lastColumn_, place.column);
-    return *std::prev(next == tree_.end() ? cells_.end() : next->second);
+    return *std::prev(before);
 }
 
 void localSxlCells::append(localSxlCell cell) {
-    std::list<localSxlCell> made;
+    Cells made;
     made.push_back(std::move(cell));
     const localSxlPlace place = made.front().place;
     // An earlier cell of that place stays the one that is found.
-    tree_.emplace_hint(tree_.end(), place, made.begin());
+    if (find(place) == nullptr) {
+        tree_.insert(place.order(), made.begin());
+    }
     cells_.splice(cells_.end(), made);
     lastColumn_ = std::max(lastColumn_, place.column);
 }
 
 const localSxlCell* localSxlCells::findFrom(localSxlPlace place) const {
-    const auto found = tree_.lower_bound(place);
-    return found == tree_.end() ? nullptr : &*found->second;
+    const auto found = tree_.findFrom(place.order());
+    return found.entry == nullptr ? nullptr : &**found.entry;
 }

@@ -98,11 +98,11 @@ TEST(localSxlCells, theFirstOfEqualPlacesIsFound) {
     EXPECT_TRUE(cells.defaultCell().text.empty());
 }
 
-// A new cell and a lookup compare no more than the height of a balanced tree.
-TEST(localSxlCells, whatIsComparedGrowsAsTheLogarithm) {
+// A new cell and a lookup cost a number of steps that grows with the logarithm of the cells.
+TEST(localSxlCells, whatIsComparedAndMovedGrowsAsTheLogarithm) {
     enum class Order { byRow, reverse, random };
     for (const Order order : {Order::byRow, Order::reverse, Order::random}) {
-        for (const std::uint32_t count : {1000U, 100000U}) {
+        for (const std::uint32_t count : {1000U, 10000U, 300000U}) {
             std::vector<std::uint32_t> rows(count);
             for (std::uint32_t i = 0; i < count; ++i) {
                 rows[i] = order == Order::reverse ? count - i : i + 1;
@@ -111,26 +111,35 @@ TEST(localSxlCells, whatIsComparedGrowsAsTheLogarithm) {
                 std::shuffle(rows.begin(), rows.end(), std::mt19937(7));
             }
             localSxlCells cells;
-            const double most = 2 * std::log2(count + 1) + 4;
-            std::int64_t mostForOne = 0;
+            const double logarithm = std::log2(count);
+            std::int64_t most = 0;
             std::int64_t before = cells.comparedCount();
             const auto compared = [&] {
-                const std::int64_t now = cells.comparedCount();
-                mostForOne = std::max(mostForOne, now - before);
-                before = now;
+                most = std::max(most, cells.comparedCount() - before);
+                before = cells.comparedCount();
             };
             for (const std::uint32_t row : rows) {
                 cells.findOrInsert({row, 5});
                 compared();
             }
-            EXPECT_LE(static_cast<double>(mostForOne), most) << count;
-            mostForOne = 0;
+            EXPECT_LE(static_cast<double>(most), 4 * logarithm) << count;
+            EXPECT_LE(static_cast<double>(cells.movedCount()) / count, 5 * logarithm) << count;
+            most = 0;
             for (const std::uint32_t row : rows) {
-                ASSERT_NE(cells.find({row, 5}), nullptr);
+                ASSERT_EQ(cells.find({row, 5})->place.row, row);
                 compared();
             }
-            EXPECT_LE(static_cast<double>(mostForOne), most) << count;
-            EXPECT_GT(mostForOne, 0);
+            EXPECT_LE(static_cast<double>(most), 2 * logarithm) << count;
+            EXPECT_GT(most, 0);
+            // All of them, in their order.
+            localSxlPlace place{1, 1};
+            for (std::uint32_t row = 1; row <= count; ++row) {
+                const localSxlCell* const cell = cells.findFrom(place);
+                ASSERT_NE(cell, nullptr);
+                ASSERT_EQ(cell->place, (localSxlPlace{row, 5}));
+                place = {row, 6};
+            }
+            EXPECT_EQ(cells.findFrom(place), nullptr);
         }
     }
 }

@@ -12,9 +12,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <list>
-#include <map>
 
 #include "localSxl/sheet/localSxlCell.h"
+#include "localSxl/sheet/localSxlPlaceTree.h"
 
 class localSxlCells {
 public:
@@ -40,22 +40,17 @@ public:
     // The first cell at a place or behind it, by place; null when there is none.
     const localSxlCell* findFrom(localSxlPlace place) const;
     // The last row and the last column that hold a cell; 0 when there is none.
-    std::uint32_t lastRow() const { return tree_.rbegin()->first.row; }
+    std::uint32_t lastRow() const { return static_cast<std::uint32_t>(tree_.lastOrder() >> 32); }
     std::uint32_t lastColumn() const { return lastColumn_; }
 
-    // Places compared so far.
-    std::int64_t comparedCount() const { return tree_.key_comp().compared; }
+    // Places compared, and places moved to make room for others, so far.
+    std::int64_t comparedCount() const { return tree_.comparedCount(); }
+    std::int64_t movedCount() const { return tree_.movedCount(); }
 
 private:
-    struct Before {
-        mutable std::int64_t compared = 0;
-        bool operator()(const localSxlPlace& a, const localSxlPlace& b) const {
-            ++compared;
-            return a.order() < b.order();
-        }
-    };
+    using Cells = std::list<localSxlCell>;
 
-    std::list<localSxlCell> cells_;
-    std::map<localSxlPlace, std::list<localSxlCell>::iterator, Before> tree_;
+    Cells cells_;
+    localSxlPlaceTree<Cells::iterator> tree_;
     std::uint32_t lastColumn_ = 0;
 };
