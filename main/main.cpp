@@ -6,6 +6,8 @@
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
+#include "localSxl/script/localSxlExtension.h"
+#include "localSxlVcl/library/localSxlVclExtension.h"
 #include "localVCL/host/localVclHost.h"
 #include "localVCL/library/localVclExtension.h"
 
@@ -13,8 +15,10 @@ namespace {
 
 // What the program is made of above the language, lowest first.
 constexpr const localExtension* madeOf[] = {
-    &localPictureExtension, &localPictureConverterExtension, &localDbExtension, &localVclExtension,
-    &localDbVclExtension,   &localConsoleExtension,
+    &localPictureExtension, &localPictureConverterExtension,
+    &localDbExtension,      &localSxlExtension,
+    &localVclExtension,     &localDbVclExtension,
+    &localSxlVclExtension,  &localConsoleExtension,
 };
 
 }  // namespace

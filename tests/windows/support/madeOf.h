@@ -6,12 +6,15 @@
 #include "localDbVcl/localDbVclExtension.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
+#include "localSxl/script/localSxlExtension.h"
+#include "localSxlVcl/library/localSxlVclExtension.h"
 #include "localVCL/library/localVclExtension.h"
 
 inline void addWhatKorvoIsMadeOf() {
     for (const localExtension* const extension :
          {&localPictureExtension, &localPictureConverterExtension, &localDbExtension,
-          &localVclExtension, &localDbVclExtension, &localConsoleExtension}) {
+          &localSxlExtension, &localVclExtension, &localDbVclExtension, &localSxlVclExtension,
+          &localConsoleExtension}) {
         localExtensionAdd(*extension);
     }
 }
