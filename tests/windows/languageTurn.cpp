@@ -170,6 +170,8 @@ std::vector<Case> cases() {
          },
          "20200605"},
         {"text that is shown", "STRINGSHOW(\"текст\")", {}, "1", 0, false},
+        {"sheet that is shown", "sheet.SHOW(\"a\")", {}, "ИСТИНА", 0, false},
+        {"table that is shown", "table.SHOW()", {}, "1", 0, false},
         {"window with code", "FORMOPEN(\"\")", {}, "55", linesOfAWindow, false},
         {"dialog with code", "FORMEDIT(\"\")", {}, "55", linesOfAWindow, false},
         {"tree of a data file", "base.TREESHOW()", {}, "ИСТИНА", 0, false},
@@ -216,6 +218,8 @@ private slots:
         enter("list=CREATEOBJECT(\"VALUELIST\")");
         enter("list.VALUEADD(1,\"Первый\")");
         enter("list.VALUEADD(2,\"Второй\")");
+        enter("sheet=CREATEOBJECT(\"TABLEDOCUMENT\")");
+        enter("table=CREATEOBJECT(\"VALUETABLE\")");
     }
 
     // --- a program that opens, asks and waits

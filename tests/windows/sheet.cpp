@@ -145,15 +145,16 @@ private slots:
         };
         shownSheet few;
         shownSheet many;
-        for (std::uint32_t i = 0; i < 1000000; ++i) {
-            many.sheet().cellTextSet({i / 10 + 1, i % 10 + 1}, u"x");
-            if (i < 10) {
-                few.sheet().cellTextSet({1, i + 1}, u"x");
-            }
+        for (std::uint32_t i = 0; i < 10; ++i) {
+            few.sheet().cellTextSet({i / 5 + 1, i % 5 + 1}, u"x");
+            many.sheet().cellTextSet({i / 5 + 1, i % 5 + 1}, u"x");
+        }
+        for (std::uint32_t i = 10; i < 1000000; ++i) {
+            many.sheet().cellTextSet({i / 10 + 100, i % 10 + 1}, u"x");
         }
         const std::int64_t ofFew = lookedAt(few);
         const std::int64_t ofMany = lookedAt(many);
-        QVERIFY2(ofFew > 0 && ofMany < 4 * ofFew, qPrintable(QString("%1 %2").arg(ofFew).arg(ofMany)));
+        QVERIFY2(ofFew > 0 && ofMany < 8 * ofFew, qPrintable(QString("%1 %2").arg(ofFew).arg(ofMany)));
     }
 
     void sizesAtTheirEndsArePainted() {

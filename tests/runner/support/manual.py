@@ -25,7 +25,7 @@ TABLES = ["parameter", "seeAlso"]
 PREFORMATTED = ["syntax", "example"]
 NEVER_EMPTY = ["nameEn", "nameRu", "syntax", "description", "example"]
 LISTED_CLASSES = ["VALUELIST", "VALUETABLE", "DATABASE", "DATABASETABLE", "DATABASERECORD",
-                  "TEST"]
+                  "TABLEDOCUMENT", "TEST"]
 
 # The words of the language, in step with the statement compiler and the expression scanner.
 KEYWORDS = """
