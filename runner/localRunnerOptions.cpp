@@ -26,7 +26,8 @@ bool localRunnerOptions::read(int argc, char* argv[]) {
             action = Action::version;
             return true;
         }
-        if (isOption && word != "-c" && word != "--check" && word != "--dump" && word != "--data") {
+        if (isOption && word != "-c" && word != "--check" && word != "--dump" && word != "--data" &&
+            word != "--export") {
             return failed("unknown option " + std::string(word));
         }
         if (!isFile && i + 1 >= argc) {
@@ -35,6 +36,10 @@ bool localRunnerOptions::read(int argc, char* argv[]) {
         const std::u16string text = localPlatform::fileNameFromBytes(isFile ? argv[i] : argv[++i]);
         if (word == "--data" && isOption) {
             dataFileName = text;
+            continue;
+        }
+        if (word == "--export" && isOption) {
+            exportFileName = text;
             continue;
         }
         const Action asked = isFile              ? Action::program
@@ -51,7 +56,8 @@ bool localRunnerOptions::read(int argc, char* argv[]) {
             fileName = text;
         }
     }
-    return true;
+    return exportFileName.empty() || action == Action::program ||
+           failed("--export needs a program or a sheet");
 }
 
 std::string localRunnerOptions::usage() {
@@ -60,6 +66,8 @@ korvo-run -c LINE           act on a line as the console does; may be given seve
 korvo-run                   act on the lines of standard input; in a terminal with editing
 korvo-run --check FILE.prg  compile a program only
 korvo-run --dump FILE.prg   compile a program and write its tree
+korvo-run --export OUT FILE export a sheet as .pdf, .html, .csv or .xlsx: that of FILE.sxl, or
+                            the one that the program FILE.prg shows, the last where it shows many
 korvo-run --version
 korvo-run --help
 

@@ -16,6 +16,7 @@ struct localRunnerOptions {
     Action action = Action::standardInput;
     std::u16string fileName;            // of the program
     std::u16string dataFileName;        // empty: the environment tells
+    std::u16string exportFileName;      // of the sheet that a program shows; empty: none
     std::vector<std::u16string> lines;  // of -c, in order
     std::string fault;
 };

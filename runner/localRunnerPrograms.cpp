@@ -4,7 +4,9 @@
 #include "localInterpretatorUTF8/file/localFile.h"
 #include "localInterpretatorUTF8/program/localProgram.h"
 #include "localInterpretatorUTF8/status/localStatus.h"
+#include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
+#include "localInterpretatorUTF8/value/localSlot.h"
 
 namespace localRunnerPrograms {
 namespace {
@@ -43,6 +45,36 @@ int run(const std::u16string& fileName) {
         return failed;
     }
     return status == localErrorTypeRESULTNOTONE ? valueOther : valueOne;
+}
+
+int runAndExport(const std::u16string& fileName) {
+    localContextUTF8 context;
+    int status = localErrorTypeOK;
+    localSlot sheet;
+    // Brings the library, whose SHOW exports.
+    if (!context.createObj(status, u"TABLEDOCUMENT", sheet.asResult())) {
+        traceLine(localStatusWords(status), "runAndExport");
+        return unreadable;
+    }
+    if (!toUpper(fileName).ends_with(u".SXL")) {
+        return run(fileName);
+    }
+    const localSlot name = localSlot::reserve();
+    name->setVal(localText(fileName));
+    localValueDescription* const names[] = {name.get()};
+    const localArguments args = names;
+    localSlot loaded;
+    if (!sheet->valueMethodExec(status, &context, u"LOAD", &args, loaded.asResult()) ||
+        loaded->num == 0.0) {
+        return unreadable;
+    }
+    const localArguments none;
+    localSlot shown;
+    if (!sheet->valueMethodExec(status, &context, u"SHOW", &none, shown.asResult())) {
+        traceLine(localStatusWords(status), "runAndExport");
+        return failed;
+    }
+    return valueOne;
 }
 
 int check(const std::u16string& fileName) {

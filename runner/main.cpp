@@ -28,7 +28,9 @@ int act(const localRunnerOptions& options) {
             std::cout << localRunnerOptions::version() << std::endl;
             return 0;
         case localRunnerOptions::Action::program:
-            return localRunnerPrograms::run(options.fileName);
+            return options.exportFileName.empty()
+                       ? localRunnerPrograms::run(options.fileName)
+                       : localRunnerPrograms::runAndExport(options.fileName);
         case localRunnerOptions::Action::check:
             return localRunnerPrograms::check(options.fileName);
         case localRunnerOptions::Action::dump:
@@ -58,6 +60,9 @@ int start(int argc, char* argv[]) {
     if (!options.dataFileName.empty()) {
         // The library of the data file comes later, if ever; it looks there.
         localPlatform::setEnvironment("KORVO_DATA", options.dataFileName);
+    }
+    if (!options.exportFileName.empty()) {
+        localPlatform::setEnvironment("KORVO_EXPORT", options.exportFileName);
     }
     return act(options);
 }

@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -10,6 +13,8 @@
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QScrollBar>
 #include <QTest>
 #include <QThread>
@@ -154,7 +159,8 @@ private slots:
         }
         const std::int64_t ofFew = lookedAt(few);
         const std::int64_t ofMany = lookedAt(many);
-        QVERIFY2(ofFew > 0 && ofMany < 8 * ofFew, qPrintable(QString("%1 %2").arg(ofFew).arg(ofMany)));
+        QVERIFY2(ofFew > 0 && ofMany < 8 * ofFew,
+                 qPrintable(QString("%1 %2").arg(ofFew).arg(ofMany)));
     }
 
     void sizesAtTheirEndsArePainted() {
@@ -415,6 +421,52 @@ private slots:
         shown.key(Qt::Key_F, Qt::ControlModifier);
         QVERIFY(answer.given());
         QCOMPARE(shown.at(), "9:2");
+    }
+
+    // --- paper and other programs
+
+    void pagesAreShownBeforePrinting() {
+        shownSheet shown("FOR i=1 TO 100 DO s.CELLTEXTSET(i,1,\"Товар \"+STRING(i)); ENDDO;");
+        const dialogAnswer answer([](QWidget* dialog) {
+            auto* const preview = qobject_cast<QPrintPreviewDialog*>(dialog);
+            QVERIFY(preview != nullptr);
+            auto* const pages = preview->findChild<QPrintPreviewWidget*>();
+            QTRY_COMPARE(pages->pageCount(), 2);
+            QVERIFY(saveScreenshot(*preview, QStringLiteral("sheetPrint")));
+            preview->reject();
+        });
+        shown.key(Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(answer.given());
+    }
+
+    void aSheetIsExported() {
+        shownSheet shown("s.CELLTEXTSET(1,1,\"Товар\");");
+        const dialogAnswer answer([](QWidget* dialog) {
+            auto* const files = qobject_cast<QFileDialog*>(dialog);
+            QVERIFY(files != nullptr);
+            files->findChild<QLineEdit*>()->setText(QDir::current().filePath("out.csv"));
+            QTest::keyClick(files->findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+        shown.key(Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(answer.given());
+        QFile file("out.csv");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("\xEF\xBB\xBFТовар\r\n"));
+    }
+
+    void whatCannotBeExportedIsTold() {
+        shownSheet shown("s.CELLTEXTSET(4000000000,1,\"x\");");
+        const outputCapture output;
+        const dialogAnswer answer([](QWidget* dialog) {
+            auto* const box = qobject_cast<QMessageBox*>(dialog);
+            QVERIFY(box != nullptr);
+            QVERIFY(box->text().contains(QStringLiteral("1048576")));
+            box->accept();
+        });
+        shown.widget->sheetExport("far.xlsx");
+        QVERIFY(answer.given());
+        QVERIFY(output.text().contains(QStringLiteral("1048576")));
+        QVERIFY(!QFile::exists("far.xlsx"));
     }
 
     // --- Enter

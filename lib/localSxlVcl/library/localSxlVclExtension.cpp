@@ -2,9 +2,9 @@
 
 #include <QScrollArea>
 
-#include "library/localSxlTable.h"
 #include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localSxl/sheet/localSxlSheet.h"
+#include "localSxl/sheet/localSxlTable.h"
 #include "localSxlVcl/sheet/localSxl.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localVclOnWindowThread.h"

@@ -15,12 +15,12 @@
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localInterpretatorUTF8/value/localSlot.h"
+#include "localSxl/paint/localSxlBands.h"
 #include "localVCL/dialog/localVclMessage.h"
 #include "localVCL/editor/localDialogFindString.h"
 #include "localVCL/font/localVclFont.h"
 #include "localVCL/text/localVclText.h"
 #include "localVCL/window/localVclOnWindowThread.h"
-#include "sheet/localSxlBands.h"
 #include "sheet/localSxlLink.h"
 #include "sheet/localSxlPainting.h"
 
@@ -134,11 +134,11 @@ void localSxl::paintEvent(QPaintEvent*) {
 // --- places on the screen
 
 localSxlBandSizes localSxl::rowSizes() const {
-    return {sheet().rowHeights(), sheet().cells().defaultCell().format->height};
+    return localSxlRowSizes(sheet());
 }
 
 localSxlBandSizes localSxl::columnSizes() const {
-    return {sheet().columnWidths(), sheet().cells().defaultCell().format->width};
+    return localSxlColumnSizes(sheet());
 }
 
 int localSxl::headerHeight() const {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "localSxl/paint/localSxlBands.h"
 #include "localSxlVcl/sheet/localSxl.h"
-#include "sheet/localSxlBands.h"
 
 namespace {
 
@@ -48,6 +48,10 @@ void localSxl::keyPressEvent(QKeyEvent* event) {
         findString();
     } else if (isControl && key == Qt::Key_C) {
         cellCopy();
+    } else if (isControl && key == Qt::Key_P) {
+        sheetPrint();
+    } else if (isControl && key == Qt::Key_E) {
+        sheetExportAsk();
     } else if (isControl && (key == Qt::Key_Plus || key == Qt::Key_Equal)) {
         zoomSet(zoom_ + zoomStep);
     } else if (isControl && key == Qt::Key_Minus) {

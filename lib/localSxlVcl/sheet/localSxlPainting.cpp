@@ -1,17 +1,12 @@
 #include "sheet/localSxlPainting.h"
 
-#include <QApplication>
 #include <QPainter>
 
 #include <algorithm>
 
-#include "localVCL/text/localVclText.h"
+#include "localSxl/paint/localSxlCellPaint.h"
 
 namespace {
-
-constexpr int inset = 2;                  // pixels around a cell's content
-constexpr std::int32_t mostPoints = 500;  // of a font on the screen
-constexpr qsizetype mostLetters = 4000;   // of a cell's text on the screen
 
 QColor mixed(const QColor& a, const QColor& b, double part) {
     const auto channel = [part](int x, int y) {
@@ -21,38 +16,6 @@ QColor mixed(const QColor& a, const QColor& b, double part) {
 }
 
 }  // namespace
-
-QFont localSxlFontOf(const localSxlCell& cell) {
-    QFont font = QApplication::font();
-    if (cell.font == nullptr) {
-        return font;
-    }
-    if (!cell.font->family.empty()) {
-        font.setFamily(localVclQString(cell.font->family));
-    }
-    if (cell.font->size > 0) {
-        font.setPointSize(std::min(cell.font->size, mostPoints));
-    }
-    if (const std::int32_t flags = cell.font->flags; flags >= 0) {
-        const bool isStruckOut = (flags & localSxlCellFont::strikeout) != 0;
-        font.setBold((flags & localSxlCellFont::bold) != 0);
-        font.setItalic((flags & localSxlCellFont::italic) != 0);
-        // One flag for both; that of the underline is not drawn. Meant.
-        font.setStrikeOut(isStruckOut);
-        font.setUnderline(isStruckOut);
-    }
-    return font;
-}
-
-QColor localSxlColorOf(std::int32_t color) {
-    return QColor::fromRgb(static_cast<QRgb>(color) & 0xffffffU);
-}
-
-int localSxlAlignmentOf(const localSxlCellFormat& format) {
-    const int horizontal = format.alignmentH < 1 ? Qt::AlignLeft : format.alignmentH;
-    const int vertical = format.alignmentV < 1 ? Qt::AlignVCenter : format.alignmentV;
-    return (horizontal & Qt::AlignHorizontal_Mask) | (vertical & Qt::AlignVertical_Mask);
-}
 
 localSxlPainting::localSxlPainting(const localSxl& widget, QPainter& painter)
     : widget_(widget),
@@ -161,36 +124,13 @@ void localSxlPainting::cells() {
                 break;
             }
             if (column->number == found->place.column) {
-                cell(*found, boxOf(row, *column));
+                localSxlCellPaint(painter_, boxOf(row, *column), sheet_, *found,
+                                  localSxlFontSize::points);
             } else {
                 --column;
             }
         }
     }
-}
-
-void localSxlPainting::cell(const localSxlCell& shown, const QRect& box) {
-    const localSxlCellFormat& format = sheet_.cellFormat(shown);
-    painter_.setBrush(localSxlColorOf(format.colorFon));
-    painter_.setPen(localSxlColorOf(format.colorBorder));
-    painter_.drawRect(box.adjusted(-1, -1, -1, -1));
-    const QRect inner = box.adjusted(inset, 1, -inset - 1, -1);
-    const bool hasImage = shown.image != nullptr && !shown.image->isNull();
-    if (inner.isEmpty() || (shown.text.empty() && !hasImage)) {
-        return;
-    }
-    painter_.save();
-    painter_.setClipRect(inner);
-    if (hasImage) {
-        painter_.drawImage(inner.topLeft(), *shown.image);
-    }
-    if (!shown.text.empty()) {
-        painter_.setFont(localSxlFontOf(shown));
-        painter_.setPen(localSxlColorOf(format.colorText));
-        const QString text = widget_.cellText(shown.place.row, shown.place.column);
-        painter_.drawText(inner, localSxlAlignmentOf(format), text.left(mostLetters));
-    }
-    painter_.restore();
 }
 
 QRect localSxlPainting::boxOf(const localSxlBand& row, const localSxlBand& column) const {

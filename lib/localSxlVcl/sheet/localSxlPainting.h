@@ -1,13 +1,10 @@
 // One painting of what is in view of a sheet.
 #pragma once
 
-#include <QColor>
-#include <QFont>
-
 #include <vector>
 
+#include "localSxl/paint/localSxlBands.h"
 #include "localSxlVcl/sheet/localSxl.h"
-#include "sheet/localSxlBands.h"
 
 class QPainter;
 
@@ -24,7 +21,6 @@ private:
     void grid();
     void cursor(const QBrush& brush, int lineWidth);
     void cells();
-    void cell(const localSxlCell& shown, const QRect& box);
 
     QRect boxOf(const localSxlBand& row, const localSxlBand& column) const;
     const localSxlBand* bandOf(const std::vector<localSxlBand>& bands, std::uint32_t number) const;
@@ -37,10 +33,3 @@ private:
     const std::vector<localSxlBand> rows_;
     const std::vector<localSxlBand> columns_;
 };
-
-// The font that a cell is drawn in.
-QFont localSxlFontOf(const localSxlCell& cell);
-// A colour of a sheet.
-QColor localSxlColorOf(std::int32_t color);
-// The toolkit's flags of a cell's alignment.
-int localSxlAlignmentOf(const localSxlCellFormat& format);

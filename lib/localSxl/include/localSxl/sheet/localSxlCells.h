@@ -54,3 +54,22 @@ private:
     localSxlPlaceTree<Cells::iterator> tree_;
     std::uint32_t lastColumn_ = 0;
 };
+
+// Does something with the first cell of each place from one on, row by row up to a row. Cells of
+// row or column 0 are none that show.
+template <class Act>
+void localSxlEachCell(const localSxlCells& cells, localSxlPlace from, std::uint32_t lastRow,
+                      Act act) {
+    for (const localSxlCell* cell = cells.findFrom(from);
+         cell != nullptr && cell->place.row <= lastRow;) {
+        if (cell->place.column != 0) {
+            act(*cell);
+        }
+        const std::uint64_t next = cell->place.order() + 1;
+        if (next == 0) {
+            return;
+        }
+        cell = cells.findFrom({static_cast<std::uint32_t>(next >> 32),
+                               static_cast<std::uint32_t>(next & 0xffffffffU)});
+    }
+}

@@ -64,6 +64,12 @@ public slots:
     void columnWidthAsk(std::uint32_t column);
     // Puts the text of the current cell on the clipboard.
     void cellCopy();
+    // Shows the sheet's pages, which a person may print then.
+    void sheetPrint();
+    // Asks for a file, and exports the sheet there in the format of its name.
+    void sheetExportAsk();
+    // The same without asking. What cannot be is told in a box and a line.
+    void sheetExport(const QString& fileName);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,4 +1,4 @@
-#include "library/localSxlTable.h"
+#include "localSxl/sheet/localSxlTable.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "sheet/localSxlBands.h"
+#include "localSxl/paint/localSxlBands.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,6 +13,14 @@ constexpr std::int32_t largestShown = 65535;  // pixels
 int localSxlBandSizes::of(std::uint32_t number) const {
     const auto found = own.find(number);
     return std::clamp(found == own.end() ? others : found->second, 0, largestShown);
+}
+
+localSxlBandSizes localSxlRowSizes(const localSxlSheet& sheet) {
+    return {sheet.rowHeights(), sheet.cells().defaultCell().format->height};
+}
+
+localSxlBandSizes localSxlColumnSizes(const localSxlSheet& sheet) {
+    return {sheet.columnWidths(), sheet.cells().defaultCell().format->width};
 }
 
 std::uint32_t localSxlNextShown(const localSxlBandSizes& sizes, std::uint32_t number) {

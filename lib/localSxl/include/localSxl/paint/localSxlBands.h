@@ -16,6 +16,9 @@ struct localSxlBandSizes {
     int of(std::uint32_t number) const;
 };
 
+localSxlBandSizes localSxlRowSizes(const localSxlSheet& sheet);
+localSxlBandSizes localSxlColumnSizes(const localSxlSheet& sheet);
+
 struct localSxlBand {
     std::uint32_t number;  // of the row or column, from 1
     int at;                // in pixels from the first
