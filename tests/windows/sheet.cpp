@@ -658,6 +658,28 @@ private slots:
         shown.widget->grab();
     }
 
+    void theSamplesShowTheirReports_data() {
+        QTest::addColumn<QString>("title");
+        QTest::newRow("sheetPriceList") << "Прайс-лист [розница]";
+        QTest::newRow("sheetStock") << "Остатки [по складам]";
+        QTest::newRow("sheetInvoice") << "Накладная [000042]";
+    }
+    void theSamplesShowTheirReports() {
+        QFETCH(QString, title);
+        const QString name = QTest::currentDataTag();
+        QFile file(qEnvironmentVariable("KORVO_SOURCE") + "/prgTest/" + name + ".prg");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        shownSheet shown;
+        QCOMPARE(shown.run(QString::fromUtf8(file.readAll())), int(localErrorTypeOK));
+        QCOMPARE(sheetWindows().size(), 1);
+        QWidget* const window = sheetWindows().first();
+        QCOMPARE(window->windowTitle(), title);
+        auto* const widget = window->findChild<localSxl*>();
+        widget->currentSet({6, 2});
+        QTest::keyClick(widget, Qt::Key_Return);
+        QVERIFY(saveScreenshot(*window, name));
+    }
+
     // For a person to look at.
     void aReportLooksGood() {
         shownSheet shown(
