@@ -3,6 +3,7 @@
 #include "localConsole/help/localConsoleExtension.h"
 #include "localDb/localDbExtension.h"
 #include "localDbVcl/localDbVclExtension.h"
+#include "localForm/run/localFormExtension.h"
 #include "localInterpretatorUTF8/host/localHost.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
@@ -18,7 +19,8 @@ constexpr const localExtension* madeOf[] = {
     &localPictureExtension, &localPictureConverterExtension,
     &localDbExtension,      &localSxlExtension,
     &localVclExtension,     &localDbVclExtension,
-    &localSxlVclExtension,  &localConsoleExtension,
+    &localSxlVclExtension,  &localFormExtension,
+    &localConsoleExtension,
 };
 
 }  // namespace

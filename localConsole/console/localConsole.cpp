@@ -11,6 +11,7 @@
 
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
+#include "localForm/run/localFormExtension.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/program/localCommand.h"
 #include "localInterpretatorUTF8/status/localGuard.h"
@@ -151,6 +152,10 @@ localConsole::~localConsole() {
     // Objects of the language may write when they go: this console is still whole enough to take
     // it.
     context_.reset();
+}
+
+bool localConsole::windowMayClose() {
+    return localFormCloseAll();
 }
 
 void localConsole::cmdExec(const QString& command) {

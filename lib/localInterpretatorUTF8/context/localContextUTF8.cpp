@@ -283,15 +283,15 @@ bool localContextUTF8::init(int& status) {
     varRemoveAll();
     classes_.clear();
     if (globalContext == this) {
-        nativeFunctionsAdd();
+        methodsImport(*classDeclaration());
         localStartClasses::registerIn(*this);
     }
     return true;
 }
 
-void localContextUTF8::nativeFunctionsAdd() {
+void localContextUTF8::methodsImport(const localClassDeclaration& declaration) {
     localScopeTable<localFunctionEntry> functions;
-    for (const auto& member : classDeclaration()->members()) {
+    for (const auto& member : declaration.members()) {
         if (member->methodFunction != nullptr) {
             functions.add({member->name, nameHash(member->name), member->methodFunction, nullptr});
         }

@@ -4,6 +4,7 @@
 #include "localConsole/help/localConsoleExtension.h"
 #include "localDb/localDbExtension.h"
 #include "localDbVcl/localDbVclExtension.h"
+#include "localForm/run/localFormExtension.h"
 #include "localPicture/color/localPictureExtension.h"
 #include "localPictureConverter/localPictureConverterExtension.h"
 #include "localSxl/script/localSxlExtension.h"
@@ -14,7 +15,7 @@ inline void addWhatKorvoIsMadeOf() {
     for (const localExtension* const extension :
          {&localPictureExtension, &localPictureConverterExtension, &localDbExtension,
           &localSxlExtension, &localVclExtension, &localDbVclExtension, &localSxlVclExtension,
-          &localConsoleExtension}) {
+          &localFormExtension, &localConsoleExtension}) {
         localExtensionAdd(*extension);
     }
 }

@@ -25,13 +25,14 @@
 #include "localInterpretatorUTF8/thread/localTurn.h"
 #include "localVCL/editor/localVclWidgetEditor.h"
 #include "localVCL/window/localVclTurn.h"
+#include "localVCL/window/localVclWindow.h"
 
 class MyThread;
 class localContextUTF8;
 class localPaintRate;
 struct localOperatorCompiled;
 
-class localConsole : public QPlainTextEdit {
+class localConsole : public QPlainTextEdit, public localVclWindowContent {
     Q_OBJECT
 
 public:
@@ -48,6 +49,9 @@ public:
     // a prompt. QUIT closes the window, and with it this object once the event loop is reached
     // again.
     void cmdExec(const QString& command);
+
+    // Open forms are asked first.
+    bool windowMayClose() override;
 
     // Puts `text`, or the prompt in force when it is empty, at the end of the document.
     void putPrompt(PromptPlace place, const QString& text = {});

@@ -118,6 +118,9 @@ public:
     void funcAdd(std::u16string_view name, std::shared_ptr<const localOperatorCompiled> compiled);
     // Defines all functions of a compiled block, in order, or for want of memory none.
     void moduleImport(const localOperatorCompiled& module);
+    // Every method of a class becomes a function of this very context, in place of what it had, and
+    // is called with the context as its object. For want of memory nothing changes.
+    void methodsImport(const localClassDeclaration& declaration);
     // Calls a function by name. Halts on a non-null `result`. Statuses 16 for an exception, 24, 31,
     // 19, 20 and what it sets.
     bool funcExec(int& status, std::u16string_view name, const localArguments& args,
@@ -167,7 +170,6 @@ private:
                  localValueDescription*& result);
     void funcAdd(const localText& upper, std::uint32_t hash,
                  std::shared_ptr<const localOperatorCompiled> compiled);
-    void nativeFunctionsAdd();
 
     localContextUTF8* parent_ = nullptr;
     void* creator_ = nullptr;
