@@ -50,6 +50,9 @@ localVclWidgetEdit::localVclWidgetEdit(const std::u16string& name, localContextU
 }
 
 localVclWidgetEdit::~localVclWidgetEdit() {
+    // Their last signals find this object whole.
+    delete dialog_;
+    editor_->disconnect(this);
     if (ownContext_ != nullptr) {
         const localTurn::Hold turn;
         ownContext_.reset();

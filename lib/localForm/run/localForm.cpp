@@ -38,7 +38,8 @@ localValueDescription& variableOf(localContextUTF8& context, std::u16string_view
 
 localForm::localForm(std::u16string_view fileName, const localValueList* parameters)
     : scope_(std::make_shared<localFormScope>()),
-      alive_(std::in_place, this, localLiveObject::Kind::form) {
+      alive_(std::in_place, this, localLiveObject::Kind::form),
+      opened_(std::in_place, this) {
     scope_->left = [this] {
         if (std::exchange(closeWaits_, false)) {
             closeSoon();
@@ -97,6 +98,7 @@ void localForm::leaveLanguage() {
         delete element;
     }
     alive_.reset();
+    opened_.reset();
     scope_.reset();
 }
 
@@ -244,7 +246,8 @@ void localForm::paintEvent(QPaintEvent* event) {
 
 void localForm::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    focusNextChild();
+    // Who comes from the first field backwards goes on backwards.
+    focusNextPrevChild(event->reason() != Qt::BacktabFocusReason);
 }
 
 bool localForm::focusNextPrevChild(bool next) {
@@ -278,7 +281,12 @@ bool localForm::closeEventBefor() {
 
 void localForm::closeUnasked() {
     closeUnasked_ = true;
-    ownWindow().close();
+    // A form that is being opened has no window yet.
+    if (isInUse()) {
+        closeWaits_ = true;
+    } else {
+        ownWindow().close();
+    }
 }
 
 void localForm::closeSoon() {

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QRegularExpressionValidator>
 
 #include <algorithm>
 #include <cmath>
@@ -29,6 +30,9 @@ localVclEditWidgetNumeric::localVclEditWidgetNumeric(std::int32_t length, std::i
       len(std::max(length, smallestLength(std::max(decimals, 0), isSigned))),
       dec(std::max(decimals, 0)) {
     setFrame(false);
+    // Nothing else is taken, neither typed nor pasted.
+    static const QRegularExpression signsOfNumbers(QStringLiteral("[0-9 .+-]*"));
+    setValidator(new QRegularExpressionValidator(signsOfNumbers, this));
     // In a proportional font blanks alone would not bring the digits to the edge.
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     heightByFont();

@@ -54,6 +54,10 @@ public:
     // Whether its module, a button, an event or a formula is at work.
     bool isInUse() const;
 
+    // In the order of the file.
+    const std::vector<localVclWidgetEdit*>& edits() const { return edits_; }
+    const std::vector<localFormLayoutDesignerElementWidget*>& elements() const { return elements_; }
+
     // Shows the variables in the fields, and the formulas in labels and pictures.
     void refresh();
 
@@ -95,7 +99,7 @@ private:
     void closeSoon();
     QWidget& ownWindow();
 
-    // Keeps the form among those that are opened.
+    // Keeps the form among those that stand.
     class Opened {
     public:
         explicit Opened(localForm* form);
@@ -118,5 +122,5 @@ private:
     std::vector<localFormLayoutDesignerElementWidget*> elements_;
     localVclTurnWork closeWork_;
     std::optional<localLiveObject> alive_;
-    Opened opened_{this};
+    std::optional<Opened> opened_;
 };

@@ -1,7 +1,8 @@
 // A field for a number of a fixed length with a fixed number of decimals.
 //
 // The number stands at the right edge of `length` characters, blanks in front. Between typing and
-// leaving the field the text may be anything; Return and leaving bring it into that shape again.
+// leaving the field the text may be anything made of digits, points, signs and blanks; Return and
+// leaving bring it into that shape again.
 #pragma once
 
 #include <QLineEdit>
