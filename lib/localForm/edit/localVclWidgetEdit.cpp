@@ -33,6 +33,9 @@ localVclWidgetEdit::localVclWidgetEdit(const std::u16string& name, localContextU
     setFrameStyle(panelSunken);
     setLineWidth(2);
     setMidLineWidth(2);
+    // An editor lower than the field stands in the same white.
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

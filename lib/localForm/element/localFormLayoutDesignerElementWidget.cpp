@@ -222,7 +222,11 @@ std::u16string localFormLayoutDesignerElementWidget::caption() const {
 }
 
 void localFormLayoutDesignerElementWidget::fontSet(const QFont& font, const QColor& color) {
-    carried_->setFont(font);
+    QFont shown = font;
+    if (shown.family().isEmpty()) {
+        shown.setFamilies(QFont().families());
+    }
+    carried_->setFont(shown);
     if (color.isValid()) {
         QPalette palette = carried_->palette();
         palette.setColor(carried_->foregroundRole(), color);
