@@ -7,6 +7,7 @@
 #include <QToolBar>
 
 #include "formTest.h"
+#include "localVCL/grid/localVclTestWidgetValueTable200617.h"
 #include "localVCL/picture/localVclImage.h"
 #include "localVCL/picture/localVclPicture.h"
 
@@ -302,6 +303,53 @@ private slots:
         QCOMPARE(focus(), line(form, 2));
         form->setFocus();
         QCOMPARE(focus(), line(form, 0));
+    }
+
+    // A table shows the value table of its variable, whichever that is now.
+    void tablesShowValueTables() {
+        const QString layout = "{'grid':{'columns':[{'id':'ТОВАР','caption':'Товар','width':120},"
+                               "{'formula':'Цена*2','caption':'Дважды','width':80}],"
+                               "'dataSource':{'varName':'т'}}}";
+        localForm* const form =
+            open(widget("Table", "x=\"10\" y=\"10\" w=\"300\" h=\"120\" details=\"" +
+                                     QString(layout).replace('\'', '"').toHtmlEscaped() + "\"") +
+                     button(5, "fill(\"Болт\");"),
+                 "т = 0;\nFUNCTION fill(name)\nт = CREATEOBJECT(\"VALUETABLE\");\n"
+                 "т.COLUMNADD(\"Товар\"); т.COLUMNADD(\"Цена\");\n"
+                 "т.ROWADD(); т.Товар = name; т.Цена = 21;\nRETURN 1;\nENDFUNCTION;\n"
+                 "fill(\"Гвоздь\");");
+        QVERIFY(form != nullptr);
+        auto* const grid =
+            qobject_cast<localVclTestWidgetValueTable200617*>(element(form)->carried());
+        QVERIFY(grid != nullptr);
+        QCOMPARE(grid->geometry(), QRect(5, 5, 300, 120));
+        QCOMPARE(grid->columnsCount(), std::size_t{2});
+        const auto cell = [&](unsigned column) {
+            const localTurn::Hold turn;
+            return grid->cellText(1, column);
+        };
+        QCOMPARE(cell(1), "Гвоздь");
+        QCOMPARE(cell(2), "42");
+        press(form, 1);
+        QCOMPARE(cell(1), "Болт");
+        QVERIFY(saveScreenshot(*form->window(), "formTable"));
+        QSignalSpy changed(element(form), &Element::varValueChanged);
+        QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRectangle(1, 1).center());
+        QVERIFY(changed.size() > 0);
+        QTest::qWait(100);
+        QVERIFY2(changed.size() < 10, qPrintable(QString::number(changed.size())));
+        QCOMPARE(element(form)->description().details,
+                 QString(layout).replace('\'', '"').toStdU16String());
+    }
+    void aTableWithoutLayoutOrVariable() {
+        localForm* const form =
+            open(widget("Table", place(0) + "details=\"broken\"") + widget("Table", place(3)) +
+                 widget("Table", place(5) + "details=\"{&quot;grid&quot;:{&quot;dataSource&quot;:"
+                                            "{&quot;varName&quot;:&quot;made&quot;}}}\""));
+        QVERIFY(form != nullptr);
+        QCOMPARE(element(form, 0)->findChildren<QPushButton*>().value(0)->text(), "Column1");
+        QCOMPARE(element(form, 1)->findChildren<QPushButton*>().value(0)->text(), "Column1");
+        QVERIFY(value(form, "made").startsWith("Таблица значений"));
     }
 
     // Elements lie close to each other; the space around one takes no clicks from its neighbour.

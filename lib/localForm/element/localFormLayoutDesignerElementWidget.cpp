@@ -11,8 +11,9 @@
 
 #include "element/localFormFormula.h"
 #include "localForm/element/localFormScope.h"
-#include "localInterpretatorUTF8/host/localHost.h"
+#include "localInterpretatorUTF8/container/localValueTable.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
+#include "localVCL/grid/localVclTestWidgetValueTable200617.h"
 #include "localVCL/picture/localVclImage.h"
 #include "localVCL/text/localVclText.h"
 
@@ -82,6 +83,15 @@ localFormLayoutDesignerElementWidget::localFormLayoutDesignerElementWidget(
     }
 }
 
+localFormLayoutDesignerElementWidget::~localFormLayoutDesignerElementWidget() {
+    // What it carries looks at the scope to its end, and the scope ends with the turn.
+    delete carried_;
+    if (scope_ != nullptr) {
+        const localTurn::Hold turn;
+        scope_.reset();
+    }
+}
+
 QWidget* localFormLayoutDesignerElementWidget::carriedOfKind() {
     switch (facts_.kind) {
         case localFormWidgetKind::Button: {
@@ -104,9 +114,38 @@ QWidget* localFormLayoutDesignerElementWidget::carriedOfKind() {
             return label;
         }
         case localFormWidgetKind::Table:
-            break;
+            return gridMade();
     }
     return new QLabel(QStringLiteral("unnknown"), this);
+}
+
+localVclTestWidgetValueTable200617* localFormLayoutDesignerElementWidget::gridMade() {
+    constexpr int columnWidth = 100;
+    const localTurn::Hold turn;
+    if (scope_ == nullptr) {
+        // In the designer the grid's table is a variable of nobody's.
+        scope_ = std::make_shared<localFormScope>();
+    }
+    localValueDescription table;
+    auto* const empty = new localValueTable;
+    table.objectBind(empty, localValueTable::classDeclaration());
+    empty->columnAdd(u"column");
+    auto* const grid = new localVclTestWidgetValueTable200617(table, &scope_->context, this);
+    auto column = std::make_unique<localVclGridColumn>();
+    column->caption = QStringLiteral("Column1");
+    column->width = columnWidth;
+    grid->addColumn(std::move(column));
+    connect(grid, &localVclTestWidgetValueTable200617::dataSousceIdChanged, this,
+            &localFormLayoutDesignerElementWidget::emitVarValueChangedSlot);
+    return grid;
+}
+
+void localFormLayoutDesignerElementWidget::layoutSet(const std::u16string& details) {
+    facts_.details = details;
+    const localTurn::Hold turn;
+    localValueDescription layout;
+    layout.setVal(localText(details));
+    static_cast<localVclTestWidgetValueTable200617*>(carried_)->layoutReconfigureByJson(layout);
 }
 
 void localFormLayoutDesignerElementWidget::gripsAdd() {
@@ -172,7 +211,7 @@ void localFormLayoutDesignerElementWidget::describe(const localFormWidgetDescrip
         facts_.multiline = facts.multiline;
     }
     if (facts_.kind == localFormWidgetKind::Table) {
-        facts_.details = facts.details;
+        layoutSet(facts.details);
     }
 }
 
@@ -242,6 +281,9 @@ bool localFormLayoutDesignerElementWidget::isShownByFormula() const {
 void localFormLayoutDesignerElementWidget::refresh() {
     if (isShownByFormula()) {
         work_.ask([this] { formulaShow(); });
+    } else if (facts_.kind == localFormWidgetKind::Table) {
+        // It looks anew at what its variable holds.
+        static_cast<localVclTestWidgetValueTable200617*>(carried_)->refresh();
     }
 }
 

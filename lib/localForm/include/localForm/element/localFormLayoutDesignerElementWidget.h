@@ -23,6 +23,7 @@
 class QLabel;
 class localFormScope;
 class localText;
+class localVclTestWidgetValueTable200617;
 
 class localFormLayoutDesignerElementWidget : public QWidget {
     Q_OBJECT
@@ -36,6 +37,7 @@ public:
     // none.
     localFormLayoutDesignerElementWidget(localFormWidgetKind kind, const QRect& place, Mode mode,
                                          std::shared_ptr<localFormScope> scope, QWidget* parent);
+    ~localFormLayoutDesignerElementWidget() override;
 
     localFormWidgetKind kind() const { return facts_.kind; }
     Mode mode() const { return mode_; }
@@ -70,6 +72,9 @@ protected:
 
 private:
     QWidget* carriedOfKind();
+    localVclTestWidgetValueTable200617* gridMade();
+    // A layout that is none leaves the table as it was.
+    void layoutSet(const std::u16string& details);
     void gripsAdd();
     bool isShownByFormula() const;
     void formulaShow();
