@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include "console/localInputHeldBack.h"
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
 #include "localForm/run/localFormExtension.h"
@@ -184,7 +185,10 @@ void localConsole::underTurn(const std::function<void()>& work) {
         // The command comes behind what a program under DEBUG is doing. It may do it for ever, but
         // closing the window ends it.
         closeLater.onAsked = [this] { thread_->programInterrupt(); };
-        thread_->waitForStop();
+        {
+            const localInputHeldBack heldBack;
+            thread_->waitForStop();
+        }
         closeLater.onAsked = nullptr;
         if (closeLater.isAsked()) {
             return;

@@ -111,7 +111,7 @@ void MyThread::waitForStop() {
     connect(this, &MyThread::stopped, &wait, &QEventLoop::quit);
     connect(this, &QThread::finished, &wait, &QEventLoop::quit);
     while (isWorking()) {
-        wait.exec(QEventLoop::ExcludeUserInputEvents);
+        wait.exec();
     }
 }
 

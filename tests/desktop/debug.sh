@@ -5,31 +5,15 @@ source "$KORVO_SOURCE/tests/desktop/support/display.sh"
 startDisplay
 startKorvo
 
-# focus WINDOW: that window has the keyboard.
-focus() {
-    xdotool windowactivate "$1"
-    waitFor 30 isActive "$1" || fail "a window did not get the keyboard"
-}
-isActive() {
-    [[ "$(xdotool getactivewindow)" == "$1" ]]
-}
-# editorOf NAME: the editor's window of a file is on the screen, as $editor.
-editorOf() {
-    waitFor 30 xdotool search --onlyvisible --name "$1" || fail "no editor of $1"
-    editor="$(xdotool search --onlyvisible --name "$1" | tail -1)"
-}
 # hasEditors COUNT: so many windows of the program are on the screen.
 hasEditors() {
     (($(xdotool search --onlyvisible --name '^sum\.prg$' | wc -l) == $1))
 }
-hasNoWindow() {
-    ! xdotool search --onlyvisible --name "$1"
-}
 
 # The file does not exist yet: the editor opens on an empty one.
 enter 'EDIT COMMAND sum.prg'
-editorOf 'sum\.prg'
-focus "$editor"
+windowOf 'sum\.prg'
+focus "$window"
 typeText 'sum = 0;'
 press Return
 typeText 'FOR i = 1 TO 3 DO'
@@ -42,13 +26,13 @@ typeText 'RUN "echo " + STRING(sum) + " > sum.txt";'
 press ctrl+s
 waitFor 30 grep -q 'sum.txt' sum.prg || fail "Ctrl+S did not save: $(cat sum.prg)"
 grep -q '^    sum = sum+i\*i; // square$' sum.prg || fail "wrong text saved: $(cat sum.prg)"
-screenshot editor "$editor"
+screenshot editor "$window"
 press alt+F4
 waitFor 30 hasNoWindow 'sum\.prg' || fail "the editor did not close"
 
 focus "$console"
 enter 'DEBUG sum.prg'
-editorOf 'sum\.prg'
+windowOf 'sum\.prg'
 waitFor 30 consoleIsActive || fail "DEBUG did not give the keyboard back to the console"
 [[ ! -e sum.txt ]] || fail "the program ran without STEP"
 
@@ -85,8 +69,8 @@ waitFor 30 consoleIsActive || fail "the second DEBUG did not give the keyboard b
 enter 'STEP'
 enter 'QUIT'
 waitFor 30 hasEditors 1 || fail "the editor of the stopped program stayed"
-editorOf 'sum\.prg'
-focus "$editor"
+windowOf 'sum\.prg'
+focus "$window"
 press alt+F4
 expectEnd
 [[ ! -e sum.txt ]] || fail "the program ran on when the console closed"

@@ -74,7 +74,27 @@ startKorvo() {
 }
 
 consoleIsActive() {
-    [[ "$(xdotool getactivewindow)" == "$console" ]]
+    isActive "$console"
+}
+
+# focus WINDOW: that window has the keyboard.
+focus() {
+    xdotool windowactivate "$1"
+    waitFor 30 isActive "$1" || fail "a window did not get the keyboard"
+}
+
+isActive() {
+    [[ "$(xdotool getactivewindow)" == "$1" ]]
+}
+
+# windowOf NAME: the last window of that name is on the screen, as $window.
+windowOf() {
+    waitFor 30 xdotool search --onlyvisible --name "$1" || fail "no window $1"
+    window="$(xdotool search --onlyvisible --name "$1" | tail -1)"
+}
+
+hasNoWindow() {
+    ! xdotool search --onlyvisible --name "$1"
 }
 
 # Keys pressed while korvo is busy are dropped. So these wait until it has done with what came

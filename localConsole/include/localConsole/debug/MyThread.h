@@ -44,8 +44,9 @@ public:
     // Whether the worker runs and stands at no stop. Once false it stays so until the windows'
     // thread lets the worker go on.
     bool isWorking() const { return state_ == State::working && isRunning(); }
-    // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile, and
-    // the turn is given up.
+    // Comes back when the worker stands at a stop or has ended. Windows are painted meanwhile and
+    // hear of their closing, and the turn is given up. Who wants no other input either holds it
+    // back.
     void waitForStop();
     // Makes the program fail at its present stop, or wherever it works, without a line: a thread
     // that is asked for its interruption has nothing more to say (localCoutBuffer). Comes back at
