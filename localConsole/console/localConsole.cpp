@@ -9,7 +9,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include "console/localInputHeldBack.h"
+#include "console/localInputGate.h"
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
 #include "localForm/run/localFormExtension.h"
@@ -75,9 +75,13 @@ private:
 };
 
 // Keys pressed while a command ran wait in the window system; taken while the console is still
-// busy, they are dropped. Each call of the event loop brings them one step nearer, so one is not
-// enough.
-void takeWaitingInput() {
+// busy, they are dropped, and so are those for the window of a program under TRACE. Each call of
+// the event loop brings them one step nearer, so one is not enough.
+void takeWaitingInput(const QWidget* traced) {
+    std::optional<localInputGate> gate;
+    if (traced != nullptr) {
+        gate.emplace(localInputGate::Fate::isDropped, traced->window());
+    }
     constexpr int steps = 3;
     constexpr int longest = 100;  // milliseconds, should something else keep the event loop at work
     QElapsedTimer timer;
@@ -186,7 +190,7 @@ void localConsole::underTurn(const std::function<void()>& work) {
         // closing the window ends it.
         closeLater.onAsked = [this] { thread_->programInterrupt(); };
         {
-            const localInputHeldBack heldBack;
+            const localInputGate gate(localInputGate::Fate::comesLater);
             thread_->waitForStop();
         }
         closeLater.onAsked = nullptr;
@@ -202,8 +206,9 @@ void localConsole::underTurn(const std::function<void()>& work) {
         work();
     }
     if (busy_) {
-        takeWaitingInput();
+        takeWaitingInput(traced_);
     }
+    traced_ = nullptr;
 }
 
 int localConsole::act(const QString& command) {

@@ -211,6 +211,7 @@ bool localConsole::ownCommand(const std::u16string& command) {
         localProcess process;
         int status = localErrorTypeOK;
         process.trace(status, behind(command, 5), context_.get());
+        traced_ = process.editor();
     } else if (isPrefix(word, u"TRYING")) {
         tryExample();
     } else {

@@ -147,5 +147,6 @@ private:
     localConsoleHistory history_;
     std::array<QString, 12> keyCommands_;
     QPointer<localVclWidgetEditor> editor_;
+    QPointer<localVclWidgetEditor> traced_;  // the editor of the TRACE that is just ending
     std::unique_ptr<MyThread> thread_;
 };

@@ -24,6 +24,9 @@ public:
     // and those of programs.
     bool trace(int& status, const std::u16string& text, localContextUTF8* context);
 
+    // The editor that shows the program. Null when there was none or its window was closed.
+    localVclWidgetEditor* editor() const { return editor_; }
+
     // The tracing execute function. Without a TRACE under way it shows nothing: a function that a
     // traced program defined may be called later.
     static bool execute(int& status, localContextUTF8* context, const localOperatorCompiled& node,
