@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QFontMetrics>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -167,6 +168,14 @@ void localVclWidgetEditor::modifiedShow() {
 
 void localVclWidgetEditor::textChangedSlot() {
     modifiedShow();
+}
+
+void localVclWidgetEditor::insertFromMimeData(const QMimeData* source) {
+    // Where nothing is selected, the middle button brings data of no kind; the base class takes the
+    // first kind without a look.
+    if (!source->formats().isEmpty()) {
+        QPlainTextEdit::insertFromMimeData(source);
+    }
 }
 
 // Closing -----------------------------------------------------------------------------------------

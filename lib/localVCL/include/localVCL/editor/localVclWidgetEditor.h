@@ -102,6 +102,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     // "dd.MM.yyyy HH:mm:ss", for lines of diagnosis.
