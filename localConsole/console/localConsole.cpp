@@ -173,6 +173,8 @@ void localConsole::cmdExec(const QString& command) {
         putOutputLine("Syntax ERROR: " + command);
         return;
     }
+    // The work may be silent and take its time.
+    paintRate_->paintNow();
     int status = localErrorTypeOK;
     underTurn([&] { status = act(command); });
     if (status == localErrorTypeQUIT) {
@@ -319,6 +321,19 @@ void localConsole::removeInputLine() {
     cursor.movePosition(QTextCursor::End);
     cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
     cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+}
+
+void localConsole::removeTypedLine(const QString& command) {
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    const QTextBlock typed = cursor.block().previous();
+    if (!typed.text().startsWith(promptNormal_) ||
+        typed.text().mid(promptLength_).trimmed() != command) {
+        return;  // a function key's command stands nowhere
+    }
+    cursor.setPosition(typed.position());
+    cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
 }
 

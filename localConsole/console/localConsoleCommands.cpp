@@ -159,8 +159,8 @@ void editFile(Words& words, const std::u16string& word) {
 }  // namespace
 
 void localConsole::inlineCalculation(const QString& command) {
+    removeTypedLine(command);
     traceLine(u"cmdWStr:  [" + command.toStdU16String() + u"]", "cmdExec");
-    removeInputLine();
     const std::u16string expression = command.mid(2).toStdU16String();
     int status = localErrorTypeOK;
     localPosition pos = 0;

@@ -15,13 +15,15 @@ constexpr double mostFramesAhead = 100;
 localPaintRate::localPaintRate(QWidget* widget) : widget_(widget), framesAhead_(mostFramesAhead) {
     nextFrame_.setSingleShot(true);
     nextFrame_.setInterval(frame);
-    QObject::connect(&nextFrame_, &QTimer::timeout, widget, [widget] {
-        widget->setUpdatesEnabled(true);
-        // Not left to the event loop: the next change may come before it gets there.
-        QEvent paintAllThatWaits(QEvent::UpdateRequest);
-        QCoreApplication::sendEvent(widget->window(), &paintAllThatWaits);
-    });
+    // Not left to the event loop: the next change may come before it gets there.
+    QObject::connect(&nextFrame_, &QTimer::timeout, widget, [this] { paintNow(); });
     sinceLastChange_.start();
+}
+
+void localPaintRate::paintNow() {
+    widget_->setUpdatesEnabled(true);
+    QEvent paintAllThatWaits(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(widget_->window(), &paintAllThatWaits);
 }
 
 void localPaintRate::changed() {

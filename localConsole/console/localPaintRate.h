@@ -18,6 +18,8 @@ public:
 
     // Tells of a change, before the event loop runs.
     void changed();
+    // Shows what there is before this returns.
+    void paintNow();
 
 private:
     QWidget* widget_;

@@ -51,9 +51,24 @@ private slots:
         QCOMPARE(withoutTail(written[0]), QString("cmdWStr:  [# 2+2]"));
         QVERIFY(written[0].contains(" func: cmdExec "));
         QCOMPARE(written[1], QString("4"));
-        QCOMPARE(lines().mid(lines().size() - 2), QStringList({"4", prompt}));
-        QVERIFY(!lines().join('\n').contains("Wait!!!"));
+        QCOMPARE(lines(), QStringList({written[0], "4", prompt}));
         QVERIFY(!shown().isBusy());
+    }
+
+    void calculationLeavesWhatStandsAbove() {
+        enter("? 1");
+        enter("  # 2+2 ");
+        const QString written = output_[1];
+        QCOMPARE(lines(), QStringList({prompt + "? 1", "1", written, "4", prompt}));
+    }
+
+    void calculationOfAFunctionKeyLeavesTheLineAbove() {
+        end();
+        write("localConsole.ini", json("{'F3':'# 2+2'}"));
+        start();
+        consoleTest::type(shown(), "? 1");
+        key(Qt::Key_F3);
+        QCOMPARE(lines(), QStringList({prompt + "? 1", output_[0], "4", prompt}));
     }
 
     void calculationSeesTheContext() {
@@ -64,14 +79,13 @@ private slots:
     void calculationThatFailsWritesTheStatus() {
         const QStringList written = outputOf("# nothere");
         QCOMPARE(written.last(), QString("Неверный атрибут."));
-        QCOMPARE(inputLine(), prompt);
+        QCOMPARE(lines(), written + QStringList({prompt}));
         QVERIFY(!shown().isBusy());
     }
 
     void calculationWithARestIsASyntaxError() {
         enter("# 2+2 3");
-        QVERIFY2(lines().contains("Syntax ERROR: # 2+2 3"), qPrintable(lines().join('|')));
-        QCOMPARE(inputLine(), prompt);
+        QCOMPARE(lines(), QStringList({output_[0], "Syntax ERROR: # 2+2 3", prompt, prompt}));
         QVERIFY(!output_.contains("4"));
         QCOMPARE(outputOf("? 5"), QStringList({"5"}));
     }

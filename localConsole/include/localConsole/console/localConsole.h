@@ -131,6 +131,8 @@ private:
     void cursorToInput();
     // Removes the last block, and with it the line break above.
     void removeInputLine();
+    // Removes the line above the last block when it is that of a typed command.
+    void removeTypedLine(const QString& command);
     void scrollToEnd(const QTextCursor& end);
 
     std::unique_ptr<localContextUTF8> context_;
