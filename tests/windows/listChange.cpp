@@ -200,6 +200,20 @@ private slots:
         QCOMPARE(shown.list->valueAt(2).num, 0.0);
     }
 
+    void pointBeforeAnOldNumberTakesItAway() {
+        const auto value = goods();
+        shownDialog shown(*value);
+        shown.retype(1, "0.99");
+        QTest::keyClick(shown.lines[1], Qt::Key_Home);
+        QTest::keyClicks(shown.lines[1], "7.99");
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("7.99"));
+        QTest::keyClick(shown.lines[1], Qt::Key_Home);
+        QTest::keyClicks(shown.lines[1], "5,75");
+        QCOMPARE(shown.lines[1]->text(), QStringLiteral("5.75"));
+        shown.press("OK");
+        QCOMPARE(shown.list->valueAt(2).num, 5.75);
+    }
+
     void cancelKeepsWhatWasApplied() {
         const auto value = goods();
         shownDialog shown(*value);

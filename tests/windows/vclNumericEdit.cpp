@@ -115,13 +115,50 @@ private slots:
         QVERIFY(saveScreenshot(shown, QStringLiteral("vclNumericEdit")));
     }
 
-    void pointKeepsTheDecimals() {
+    void whatIsTypedOverAnOldNumberIsWhatStandsThere_data() {
+        QTest::addColumn<QString>("old");
+        QTest::addColumn<int>("place");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        const int home = 0;
+        QTest::newRow("decimals that would round up") << "0.99" << home << "7.99"
+                                                      << "  7.99";
+        QTest::newRow("other decimals") << "0.60" << home << "5.75"
+                                        << "  5.75";
+        QTest::newRow("fewer decimals") << "0.99" << home << "7.5"
+                                        << "  7.50";
+        QTest::newRow("no decimals") << "1.99" << home << "7."
+                                     << "  7.00";
+        QTest::newRow("as many digits as there is room for") << "0.99" << home << "123.45"
+                                                             << "123.45";
+        QTest::newRow("before the old digit") << "0.99" << 2 << "7.25"
+                                              << "  7.25";
+        QTest::newRow("a minus") << "0.99" << home << "-7.25"
+                                 << " -7.25";
+    }
+    void whatIsTypedOverAnOldNumberIsWhatStandsThere() {
+        QFETCH(QString, old);
+        QFETCH(int, place);
+        QFETCH(QString, typed);
+        window shown(old, 6, 2);
+        const outputCapture output;
+        QVERIFY(QTest::qWaitForWindowActive(&shown));
+        QTest::keyClick(shown.numeric, Qt::Key_Home);
+        for (int i = 0; i < place; ++i) {
+            QTest::keyClick(shown.numeric, Qt::Key_Right);
+        }
+        QTest::keyClicks(shown.numeric, typed);
+        QTest::keyClick(shown.numeric, Qt::Key_Return);
+        QTEST(shown.numeric->text(), "shown");
+    }
+
+    void pointTakesTheOldDecimalsAway() {
         window shown(QStringLiteral("1234.5"));
         const outputCapture output;
         shown.numeric->setCursorPosition(6);
         QCOMPARE(shown.numeric->text(), QStringLiteral("    1234.500"));
         QTest::keyClick(shown.numeric, Qt::Key_Period);
-        QCOMPARE(shown.numeric->text(), QStringLiteral("      12.500"));
+        QCOMPARE(shown.numeric->text(), QStringLiteral("      12.000"));
         QCOMPARE(shown.numeric->cursorPosition(), 9);
     }
 
@@ -130,7 +167,7 @@ private slots:
         const outputCapture output;
         shown.numeric->selectAll();
         QTest::keyClick(shown.numeric, Qt::Key_Period);
-        QCOMPARE(shown.numeric->text(), QStringLiteral("       0.500"));
+        QCOMPARE(shown.numeric->text(), QStringLiteral("       0.000"));
         QCOMPARE(shown.numeric->cursorPosition(), 9);
         QVERIFY(!shown.numeric->hasSelectedText());
     }

@@ -36,7 +36,9 @@ QLabel* captionOf(const localText& presentation) {
     return caption;
 }
 
-// A number with a point; a comma, which a person may be used to, becomes one.
+// A number with a point; a comma, which a person may be used to, becomes one. A point typed before
+// that of the old number takes all behind the cursor away, as in localVclEditWidgetNumeric: 7.99
+// typed in front of 0.99 is 7.99.
 class NumberValidator : public QDoubleValidator {
 public:
     explicit NumberValidator(QObject* parent) : QDoubleValidator(parent) {
@@ -47,6 +49,10 @@ public:
 
     State validate(QString& input, int& cursor) const override {
         input.replace(u',', u'.');
+        const qsizetype point = input.indexOf(u'.');
+        if (point >= 0 && point == cursor - 1 && input.indexOf(u'.', cursor) >= 0) {
+            input.truncate(cursor);
+        }
         return QDoubleValidator::validate(input, cursor);
     }
 };

@@ -60,7 +60,7 @@ void localVclEditWidgetNumeric::normalise() {
 }
 
 // Typing goes in at the left of the old number: the digits before the cursor become the whole part,
-// the rest of the old whole part goes.
+// and all that is old goes, or what is typed next would stand before old decimals.
 void localVclEditWidgetNumeric::periodPressed() {
     constexpr const char* functionName = "keyPressEvent";
     const auto numberText = [](int number) { return QString::number(number); };
@@ -76,12 +76,12 @@ void localVclEditWidgetNumeric::periodPressed() {
     if (hasSelectedText()) {
         setCursorPosition(0);
     }
-    if (cursorPosition() >= len - dec - 1) {
+    // What was typed in front has moved the old number, and its point, to the right.
+    const qsizetype moved = std::max<qsizetype>(text().size() - len, 0);
+    if (cursorPosition() >= pointPlace() + moved) {
         return;
     }
-    const qsizetype point = text().indexOf(u'.', cursorPosition());
-    const QString decimals = point < 0 ? QString() : text().mid(point);
-    numberShow(aligned(text().left(cursorPosition()) + decimals));
+    numberShow(aligned(text().left(cursorPosition())));
     setCursorPosition(len - dec);
 }
 
