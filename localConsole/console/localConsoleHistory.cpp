@@ -12,41 +12,63 @@ namespace {
 constexpr const char16_t* historyFileName = u"console_history.log";
 
 // The system takes a killed process out of a write only where it goes from one page of the file to
-// the next. So a last line that has no end and stops just there is a piece; any other was left by a
-// program that ends no last line, and is whole.
-bool isPiece(const QByteArray& lastLine, qint64 fileSize) {
-    constexpr qint64 page = 4096;  // bytes; larger pages are multiples of it
-    return fileSize % page == 0 && !lastLine.endsWith('\n');
+// the next. A line that does is kept in a file of its own, the mark, while it is being written.
+constexpr qint64 page = 4096;  // bytes; larger pages are multiples of it
+
+QString markOf(const QString& fileName) {
+    return fileName + QStringLiteral(".part");
 }
 
-// How much of a file that ends with a piece the whole lines take; all of it where it cannot be
-// read.
-qint64 sizeWithoutPiece(QFile& file) {
+QByteArray contentOf(const QString& fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Whether a last line is what a torn write has left of the line in the mark. Any other line without
+// an end is whole: some programs end no last line.
+bool isPiece(const QByteArray& lastLine, const QString& fileName) {
+    if (lastLine.isEmpty() || lastLine.endsWith('\n')) {
+        return false;
+    }
+    const QByteArray marked = contentOf(markOf(fileName));
+    return marked.size() > lastLine.size() && marked.startsWith(lastLine);
+}
+
+// Takes a piece at the file's end away. Gives whether the last line then has its end, as it has in
+// an empty file.
+bool endOfLastLineFind(QFile& file, const QString& fileName) {
+    const qint64 size = file.size();
+    if (size == 0 || (file.seek(size - 1) && file.read(1) == "\n")) {
+        return true;
+    }
     file.seek(0);
     const QByteArray bytes = file.readAll();
-    return bytes.size() == file.size() ? bytes.lastIndexOf('\n') + 1 : file.size();
+    const qsizetype lastLine = bytes.lastIndexOf('\n') + 1;
+    return bytes.size() == size && isPiece(bytes.mid(lastLine), fileName) && file.resize(lastLine);
 }
 
 // Nothing of the line stays in the file when there is no room for all of it.
-void append(const QString& fileName, QByteArray line) {
+void append(const QString& fileName, const QByteArray& line) {
     QFile file(fileName);
     // Without a buffer, so that the line is one write; behind what another console has written
     // meanwhile.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered)) {
         return;
     }
-    qint64 size = file.size();
-    if (size > 0 && file.seek(size - 1)) {
-        const QByteArray last = file.read(1);
-        if (isPiece(last, size)) {
-            size = sizeWithoutPiece(file);
-            file.resize(size);
-        } else if (last != "\n") {
-            line.prepend('\n');
-        }
+    const QByteArray bytes = endOfLastLineFind(file, fileName) ? line : '\n' + line;
+    const qint64 size = file.size();
+    QFile mark(markOf(fileName));
+    mark.remove();
+    const bool staysInItsPage = size / page == (size + bytes.size() - 1) / page;
+    if (!staysInItsPage && mark.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        mark.write(line);
+        mark.close();
     }
-    if (file.write(line) != line.size()) {
+    if (file.write(bytes) != bytes.size()) {
         file.resize(size);
+    }
+    if (!staysInItsPage) {
+        mark.remove();
     }
 }
 
@@ -66,7 +88,7 @@ localConsoleHistory::localConsoleHistory() {
         while (!file.atEnd()) {
             const QByteArray bytes = file.readLine();
             const QString line = QString::fromUtf8(bytes).trimmed();
-            if (!line.isEmpty() && !isPiece(bytes, file.pos())) {
+            if (!line.isEmpty() && !isPiece(bytes, fileName_)) {
                 lines_.append(line);
             }
         }

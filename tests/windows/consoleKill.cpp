@@ -334,7 +334,7 @@ private slots:
             for (const auto& [name, bytes] : filesHere()) {
                 names.insert(name);
             }
-            QVERIFY2(names.size() <= 3, qPrintable(names.values().join(' ')));
+            QVERIFY2(names.size() <= 4, qPrintable(names.values().join(' ')));
             known = *lines;
         }
         QVERIFY(known > 0);
@@ -371,7 +371,7 @@ private slots:
                 write(name, bytes);
                 names.insert(name);
             }
-            QVERIFY2(names.size() <= 3, qPrintable(names.values().join(' ')));
+            QVERIFY2(names.size() <= 4, qPrintable(names.values().join(' ')));
             const QByteArray history =
                 files.contains(historyName) ? files.at(historyName) : QByteArray();
             QVERIFY2(wanted.startsWith(history), qPrintable(middleOf(history)));
@@ -436,7 +436,25 @@ private slots:
         const QByteArray file = all.left(all.size() / page * page);
         QVERIFY(file.size() > whole.size());
         write(historyName, file);
+        write(historyName + ".part", next + '\n');
         goOn(whole);
+    }
+
+    void lineWithoutAnEndIsNoPieceWithoutTheMark_data() {
+        QTest::addColumn<QByteArray>("mark");
+        QTest::newRow("no mark") << QByteArray();
+        QTest::newRow("the mark of another line") << QByteArray("? 2\n");
+        QTest::newRow("the mark of that line, which is whole") << QByteArray(page - 4, 'x');
+    }
+    // Also where it ends with a page.
+    void lineWithoutAnEndIsNoPieceWithoutTheMark() {
+        QFETCH(QByteArray, mark);
+        const QByteArray file = "? 1\n" + QByteArray(page - 4, 'x');
+        write(historyName, file);
+        if (!mark.isEmpty()) {
+            write(historyName + ".part", mark);
+        }
+        goOn(file + '\n');
     }
 
     void lineForWhichTheDiskHasNoRoomIsAbsent_data() {
