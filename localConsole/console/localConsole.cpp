@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include <utility>
+
 #include "console/localInputGate.h"
 #include "console/localPaintRate.h"
 #include "localConsole/debug/MyThread.h"
@@ -242,6 +244,12 @@ void localConsole::settingsApply() {
     resize(wanted);
 }
 
+void localConsole::settingsFailureTell() const {
+    if (!settings_.failure().empty()) {
+        traceLine(settings_.failure(), "localConsoleSettings");
+    }
+}
+
 std::optional<QPoint> localConsole::windowPlace() const {
     const auto x = settings_.number(u"x");
     const auto y = settings_.number(u"y");
@@ -257,7 +265,8 @@ void localConsole::focusOutEvent(QFocusEvent* event) {
 }
 
 void localConsole::settingsSave() {
-    if (!settings_.geometrySave({window()->pos(), size()})) {
+    if (!settings_.geometrySave({window()->pos(), size()}) &&
+        !std::exchange(settingsFailureTold_, true)) {
         traceLine(u"Error!!! Не удалось записать файл настроек!", "focusOutEvent");
     }
 }

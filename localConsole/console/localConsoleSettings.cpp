@@ -6,7 +6,9 @@
 #include <cmath>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
+#include "console/localConsoleSettingsText.h"
 #include "localInterpretatorUTF8/container/localValueList.h"
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localFile.h"
@@ -86,7 +88,7 @@ localConsoleSettings::localConsoleSettings()
         list_ = listOf(status, text_);
     }
     if (!list_) {
-        traceLine(statusMessage(status), "localConsoleSettings");
+        failure_ = statusMessage(status);
         list_ = localSlot::reserve();
         list_->objectBind(new localValueList, localValueList::classDeclaration());
     }
@@ -118,15 +120,27 @@ std::optional<QString> localConsoleSettings::command(std::u16string_view key) co
 }
 
 bool localConsoleSettings::geometrySave(const QRect& geometry) {
-    localValueList& list = *localValueList::of(*list_);
-    const auto set = [&list](double number, const char16_t* key) {
-        localValueDescription value;
-        value.setVal(number);
-        list.valueSetByPresentation(value, key);
-    };
-    set(geometry.width(), u"width");
-    set(geometry.height(), u"height");
-    set(geometry.x(), u"x");
-    set(geometry.y(), u"y");
-    return replaceFile(fileName_, localString::toUtf8(valueToJson(*list_)));
+    const std::pair<const char*, int> numbers[] = {{"width", geometry.width()},
+                                                   {"height", geometry.height()},
+                                                   {"x", geometry.x()},
+                                                   {"y", geometry.y()}};
+    // A person may have written there since the start.
+    QFile file(fileName_);
+    const bool stands = file.exists();
+    if (stands && !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const std::string before = file.readAll().toStdString();
+    std::string text = before;
+    if (QByteArray::fromStdString(text).trimmed().isEmpty()) {
+        localSlot list = localSlot::reserve();
+        list->objectBind(new localValueList, localValueList::classDeclaration());
+        text = localString::toUtf8(valueToJson(*list));
+    }
+    for (const auto& [key, number] : numbers) {
+        if (!localSettingsNumberSet(text, key, number)) {
+            return false;
+        }
+    }
+    return (stands && text == before) || replaceFile(fileName_, text);
 }

@@ -46,6 +46,8 @@ localConsole* localConsoleStart(localCoutBuffer& buffer) {
     std::cout.rdbuf(&buffer);
     greet();
     goToSamples();
+    // Only now does a line come to the console.
+    console->settingsFailureTell();
     localVclWindowShow(console, {.title = "console()",
                                  .modal = false,
                                  .iconAsBase64 = {},

@@ -49,6 +49,10 @@ bool localProcess::trace(int& status, const std::u16string& text, localContextUT
     return done;
 }
 
+localVclWidgetEditor* localProcess::editor() const {
+    return editor_;
+}
+
 bool localProcess::execute(int& status, localContextUTF8* context,
                            const localOperatorCompiled& node, const localArguments& args,
                            localValueDescription*& result) {

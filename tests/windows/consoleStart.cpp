@@ -15,6 +15,7 @@
 #include "localInterpretatorUTF8/context/localContextUTF8.h"
 #include "localInterpretatorUTF8/file/localStd.h"
 #include "screenshot.h"
+#include "testFiles.h"
 
 class consoleStart : public QObject {
     Q_OBJECT
@@ -49,6 +50,7 @@ private slots:
     }
 
     void init() {
+        testFiles::write(QDir(startedIn_).filePath("localConsole.ini"), "{}");
         before_ = std::cout.rdbuf();
         buffer_ = std::make_unique<localCoutBuffer>();
     }
@@ -67,6 +69,27 @@ private slots:
         QCOMPARE(start(), greeting_ + QStringList({"", prompt_}));
         QCOMPARE(std::cout.rdbuf(), buffer_.get());
         QCOMPARE(console_->textCursor().positionInBlock(), int(prompt_.size()));
+    }
+
+    void settingsThatCannotBeReadAreToldInTheConsole_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("no file") << QByteArray() << "Файл не найден.";
+        QTest::newRow("no JSON") << QByteArray("width = 640") << "Ошибка разбора формата JSON!";
+    }
+    void settingsThatCannotBeReadAreToldInTheConsole() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, told);
+        const QString name = QDir(startedIn_).filePath("localConsole.ini");
+        QVERIFY(QFile::remove(name));
+        if (!bytes.isEmpty()) {
+            testFiles::write(name, bytes);
+        }
+        QStringList lines = start();
+        QVERIFY2(lines.value(6).startsWith(told + " func: localConsoleSettings "),
+                 qPrintable(lines.join('|')));
+        lines.removeAt(6);
+        QCOMPARE(lines, greeting_ + QStringList({"", prompt_}));
     }
 
     void showsTheConsoleInAWindowOfItsSize() {

@@ -64,8 +64,10 @@ public:
     // line.
     void setBusy(bool on);
 
+    // Writes a line why there are no settings, if so.
+    void settingsFailureTell() const;
     // Where the window stood last. A coordinate that the settings do not name is that of the window
-    // now; nothing when they name none.
+    // now; nothing when they name none. A line tells why settings could not be read.
     std::optional<QPoint> windowPlace() const;
     // The command of a function key, 1 to 12; empty when the key has none.
     const QString& keyCommand(int key) const {
@@ -146,6 +148,7 @@ private:
     std::unique_ptr<localPaintRate> paintRate_;
     localConsoleSettings settings_;
     localVclTurnWork settingsWork_;
+    bool settingsFailureTold_ = false;
     localConsoleHistory history_;
     std::array<QString, 12> keyCommands_;
     QPointer<localVclWidgetEditor> editor_;

@@ -17,8 +17,7 @@ class localValueList;
 
 class localConsoleSettings {
 public:
-    // Reads the file. One that is missing or cannot be read gives no settings, and a line tells
-    // why.
+    // Reads the file. One that is missing or cannot be read gives no settings.
     localConsoleSettings();
     ~localConsoleSettings();
     localConsoleSettings(const localConsoleSettings&) = delete;
@@ -26,16 +25,18 @@ public:
 
     // The file's text as it was read.
     const std::u16string& text() const { return text_; }
+    // Why there are no settings; empty when there are.
+    const std::u16string& failure() const { return failure_; }
 
     // "width", "height", "x", "y", rounded; nothing when the file names no such number.
     std::optional<int> number(std::u16string_view key) const;
     // "F1" to "F12".
     std::optional<QString> command(std::u16string_view key) const;
 
-    // Writes the window's geometry beside whatever else the file names. The file is replaced in one
-    // step, so that a process killed at any moment leaves the old or the new one, and perhaps
-    // localConsole.ini.new beside it until the next writing. False when it cannot be written; the
-    // old one stays then.
+    // Writes the window's geometry into the file; what else a person wrote there stays byte for
+    // byte. The file is replaced in one step, so that a process killed at any moment leaves the old
+    // or the new one, and perhaps localConsole.ini.new beside it until the next writing. False when
+    // it cannot be written or holds no such list; it stays then.
     bool geometrySave(const QRect& geometry);
 
 private:
@@ -43,5 +44,6 @@ private:
 
     QString fileName_;
     std::u16string text_;
+    std::u16string failure_;
     localSlot list_;
 };

@@ -25,7 +25,7 @@ public:
     bool trace(int& status, const std::u16string& text, localContextUTF8* context);
 
     // The editor that shows the program. Null when there was none or its window was closed.
-    localVclWidgetEditor* editor() const { return editor_; }
+    localVclWidgetEditor* editor() const;
 
     // The tracing execute function. Without a TRACE under way it shows nothing: a function that a
     // traced program defined may be called later.

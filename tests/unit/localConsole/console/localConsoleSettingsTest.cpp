@@ -27,6 +27,11 @@ protected:
         ASSERT_EQ(file.write(bytes), bytes.size());
     }
 
+    static std::string read() {
+        QFile file(fileName);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(no file)";
+    }
+
     // Lists are made in a context: the console's stands before its settings.
     localContextUTF8 context;
 };
@@ -35,10 +40,8 @@ using number = std::optional<int>;
 using command = std::optional<QString>;
 
 TEST_F(consoleSettings, aMissingFileGivesNothing) {
-    testing::internal::CaptureStdout();
     const localConsoleSettings settings;
-    EXPECT_THAT(testing::internal::GetCapturedStdout(),
-                testing::StartsWith("Файл не найден. func: localConsoleSettings "));
+    EXPECT_EQ(settings.failure(), u"Файл не найден.");
     EXPECT_EQ(settings.text(), u"");
     EXPECT_EQ(settings.number(u"width"), number());
     EXPECT_EQ(settings.command(u"F1"), command());
@@ -69,8 +72,8 @@ TEST_F(consoleSettings, whatIsSavedIsReadBackBesideTheRest) {
     write(R"({"F5": "? 5", "width": 1})");
     {
         localConsoleSettings settings;
+        EXPECT_EQ(settings.failure(), u"");
         EXPECT_TRUE(settings.geometrySave(QRect(-7, 8, 640, 480)));
-        EXPECT_EQ(settings.number(u"width"), number(640));
     }
     localConsoleSettings settings;
     EXPECT_EQ(settings.number(u"x"), number(-7));
@@ -91,8 +94,65 @@ TEST_F(consoleSettings, aFolderInThePlaceOfTheFileFailsTheSaving) {
     ASSERT_TRUE(QDir().mkdir(fileName));
     localConsoleSettings settings;
     EXPECT_FALSE(settings.geometrySave(QRect(1, 2, 3, 4)));
-    EXPECT_EQ(settings.number(u"width"), number(3));
     ASSERT_TRUE(QDir().rmdir(fileName));
+}
+
+TEST_F(consoleSettings, whatAPersonWroteStaysByteForByte) {
+    write(
+        "\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", // brackets, \"quotes\"\r\n"
+        "\t\"on\" : true, \"width\":640.5,\"bytes\": \"\xFF\",\r\n"
+        "\t\"deep\": {\"height\": [1, {\"x\": 2}]}\r\n}\r\n behind");
+    EXPECT_TRUE(localConsoleSettings().geometrySave(QRect(-7, 8, 641, 480)));
+    EXPECT_EQ(
+        read(),
+        "\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", // brackets, \"quotes\"\r\n"
+        "\t\"on\" : true, \"width\":641,\"bytes\": \"\xFF\",\r\n"
+        "\t\"deep\": {\"height\": [1, {\"x\": 2}]}, \"height\": 480, \"x\": -7, \"y\": 8\r\n}\r\n"
+        " behind");
+}
+
+TEST_F(consoleSettings, theFourNumbersOfATypedListAreChangedInTheirPlaces) {
+    write(R"({"t": "OBJ","tN": "VALUELIST","vP": "old","v": [
+{"p": "F3","v": {"t": "STR","vP": "","v": "? \"\[a\]\""}}
+,{"p": "y","v": {"t": "NUM","vP": "1","v": "1"}}
+,{"p": "on","v": {"t": "BOO","vP": "TRUE","v": "true"}}
+]} )");
+    EXPECT_TRUE(localConsoleSettings().geometrySave(QRect(-7, 8, 641, 480)));
+    EXPECT_EQ(read(), R"({"t": "OBJ","tN": "VALUELIST","vP": "old","v": [
+{"p": "F3","v": {"t": "STR","vP": "","v": "? \"\[a\]\""}}
+,{"p": "y","v": {"t": "NUM","vP": "8","v": "8"}}
+,{"p": "on","v": {"t": "BOO","vP": "TRUE","v": "true"}}
+,{"p": "width","v": {"t": "NUM","vP": "641","v": "641"}}
+,{"p": "height","v": {"t": "NUM","vP": "480","v": "480"}}
+,{"p": "x","v": {"t": "NUM","vP": "-7","v": "-7"}}
+]} )");
+}
+
+TEST_F(consoleSettings, whatIsWrittenAfterTheStartStays) {
+    write("{}");
+    localConsoleSettings settings;
+    write(R"({"F3": "? 3"})");
+    EXPECT_TRUE(settings.geometrySave(QRect(1, 2, 3, 4)));
+    EXPECT_EQ(read(), R"({"F3": "? 3", "width": 3, "height": 4, "x": 1, "y": 2})");
+}
+
+TEST_F(consoleSettings, aTextThatIsNoListStays) {
+    for (const char* const text :
+         {"width = 640", R"({"width": 640, "hei)", R"({"width": 640,})", R"({"F3" "? 3"})",
+          "[1, 2]", "7", R"({"a": })", R"({"a": [1, {"b": 2})", R"({"a": "\\)",
+          R"({"t": "NUM", "v": 5})", R"({"t": "OBJ"})"}) {
+        write(text);
+        EXPECT_FALSE(localConsoleSettings().geometrySave(QRect(1, 2, 3, 4))) << text;
+        EXPECT_EQ(read(), text);
+    }
+}
+
+TEST_F(consoleSettings, anEmptyFileBecomesAList) {
+    for (const char* const text : {"", " \r\n"}) {
+        write(text);
+        EXPECT_TRUE(localConsoleSettings().geometrySave(QRect(1, 2, 3, 4)));
+        EXPECT_EQ(localConsoleSettings().number(u"height"), number(4));
+    }
 }
 
 TEST_F(consoleSettings, slotsAreGivenBack) {
