@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
@@ -25,10 +26,17 @@
 namespace {
 
 constexpr int keptBlocks = 100000;
-// Laying out a block costs the square of its length, so a longer line of output is put as several.
+// Laying out a block costs the square of its length, so a longer line of output is put as several;
+// in each but the first the text has this property.
 constexpr qsizetype longestBlock = 4000;
+constexpr int continuesProperty = QTextFormat::UserProperty;
 
-void insertOutput(QTextCursor& cursor, const QString& text, const QTextCharFormat& format) {
+bool continuesLineAbove(const QTextBlock& block) {
+    return !block.begin().atEnd() &&
+           block.begin().fragment().charFormat().boolProperty(continuesProperty);
+}
+
+void insertOutput(QTextCursor& cursor, const QString& text, QTextCharFormat format) {
     qsizetype at = 0;
     while (text.size() - at > longestBlock) {
         const bool splitsPair = text[at + longestBlock].isLowSurrogate();
@@ -36,6 +44,7 @@ void insertOutput(QTextCursor& cursor, const QString& text, const QTextCharForma
         cursor.insertText(text.mid(at, length), format);
         cursor.insertBlock();
         at += length;
+        format.setProperty(continuesProperty, true);
     }
     cursor.insertText(text.mid(at), format);
 }
@@ -150,10 +159,13 @@ localConsole::localConsole(QWidget* parent, const localTurn::Hold&)
 }
 
 localConsole::~localConsole() {
-    // A program under DEBUG ends where it stands: it lives in the context. Its window goes, too.
+    // A program under DEBUG ends where it stands: it lives in the context. Windows that show
+    // programs go, too.
     threadEnd();
-    if (editor_ != nullptr) {
-        editor_->window()->close();
+    for (const QPointer<localVclWidgetEditor>& editor : watched_) {
+        if (!editor.isNull()) {
+            editor->window()->close();
+        }
     }
     const localTurn::Hold turn;
     // Objects of the language may write when they go: this console is still whole enough to take
@@ -325,6 +337,24 @@ void localConsole::COUT(const QString& text) {
     paintRate_->changed();
 }
 
+QMimeData* localConsole::createMimeDataFromSelection() const {
+    const QTextCursor selection = textCursor();
+    QString text;
+    for (QTextBlock block = document()->findBlock(selection.selectionStart());
+         block.isValid() && block.position() <= selection.selectionEnd(); block = block.next()) {
+        const int start = std::max(selection.selectionStart() - block.position(), 0);
+        if (start == 0 && block.position() > selection.selectionStart() &&
+            !continuesLineAbove(block)) {
+            text += u'\n';
+        }
+        text += QStringView(block.text())
+                    .mid(start, selection.selectionEnd() - block.position() - start);
+    }
+    auto* const copied = new QMimeData;
+    copied->setText(text);
+    return copied;
+}
+
 void localConsole::removeInputLine() {
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
@@ -347,6 +377,9 @@ void localConsole::removeTypedLine(const QString& command) {
 }
 
 void localConsole::scrollToEnd(const QTextCursor& end) {
-    setTextCursor(end);
+    // What a person has selected with the mouse stays so, to be copied.
+    if (!textCursor().hasSelection()) {
+        setTextCursor(end);
+    }
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }

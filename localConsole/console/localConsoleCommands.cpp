@@ -212,6 +212,7 @@ bool localConsole::ownCommand(const std::u16string& command) {
         int status = localErrorTypeOK;
         process.trace(status, behind(command, 5), context_.get());
         traced_ = process.editor();
+        watched_.emplace_back(traced_);
     } else if (isPrefix(word, u"TRYING")) {
         tryExample();
     } else {
@@ -233,13 +234,18 @@ void localConsole::commandDebug(const std::u16string& text) {
         return;
     }
     // Two programs at once would share the context: the one under way ends where it stands.
+    const bool endsAnother = thread_ != nullptr && thread_->isRunning();
     threadEnd();
+    if (endsAnother) {
+        writeLine(u"Прежняя программа под DEBUG остановлена.");
+    }
     thread_ = std::make_unique<MyThread>(program, context_.get());
     connect(thread_.get(), &MyThread::toConsole, this, &localConsole::fromThread);
     connect(thread_.get(), &MyThread::toConsoleAsQString, this, &localConsole::fromThreadAsQString);
     connect(thread_.get(), &MyThread::operChanged, this, &localConsole::operChangedSlot);
     connect(this, &localConsole::commandToThread, thread_.get(), &MyThread::fromConsole);
     editor_ = localDebugEditorShow(fileName, program);
+    watched_.emplace_back(editor_);
     thread_->start(QThread::InheritPriority);
     setFocus();
     activateWindow();

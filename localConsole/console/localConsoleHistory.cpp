@@ -93,7 +93,7 @@ localConsoleHistory::localConsoleHistory() {
             }
         }
     }
-    index_ = lines_.size();
+    goToEnd();
 }
 
 void localConsoleHistory::enter(const QString& command) {
@@ -101,7 +101,7 @@ void localConsoleHistory::enter(const QString& command) {
         lines_.append(command);
         append(fileName_, command.toUtf8() + '\n');
     }
-    index_ = lines_.size();
+    goToEnd();
 }
 
 std::optional<QString> localConsoleHistory::back() {

@@ -194,7 +194,9 @@ void localConsole::returnPressed() {
         return;
     }
     const QString command = textCursor().block().text().mid(promptLength_).trimmed();
-    if (!command.isEmpty()) {
+    if (command.isEmpty()) {
+        history_.goToEnd();
+    } else {
         history_.enter(command);
     }
     setBusy(true);

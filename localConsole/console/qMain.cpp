@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QUtf8StringView>
 
 #include <clocale>
 #include <iostream>
@@ -43,12 +44,20 @@ int runConsole(localCoutBuffer& buffer) {
     return eventsServe();
 }
 
+// The name comes in the code page CP1251, or as this system writes names. Russian words in the one
+// are no valid text in UTF-8.
+std::u16string batchFileName(const std::string& bytes) {
+    return QUtf8StringView(bytes.data(), static_cast<qsizetype>(bytes.size())).isValidUtf8()
+               ? localPlatform::fileNameFromBytes(bytes)
+               : localString::fromBytes(bytes, localString::codePageCP1251);
+}
+
 // Runs one program without a console. No user reaches this: nobody gives a thousand words.
 int runBatch(const std::string& name) {
     if (name.starts_with('>')) {
         return 0;
     }
-    const std::u16string fileName = localString::fromBytes(name, localString::codePageCP1251);
+    const std::u16string fileName = batchFileName(name);
     traceLine(fileName, functionName);
     const std::u16string command = u"do " + fileName;
     traceLine(u"command: [" + command + u"]", functionName);

@@ -41,6 +41,11 @@ batch 0 "$name"
 holds '^пример.prg func: qMain'
 holds '^it runs too$'
 
+# And as the system writes it.
+batch 0 "пример.prg"
+holds '^пример.prg func: qMain'
+holds '^it runs too$'
+
 batch 0 '>first.prg'
 ! grep -q 'command:\|it runs' out.txt || fail "a redirection was run: $(cat out.txt)"
 

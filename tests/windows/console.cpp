@@ -510,6 +510,49 @@ private slots:
         QCOMPARE(all.last(), prompt);
     }
 
+    void longLineIsCopiedAsOneLine() {
+        const QString longLine = QString("абвгд").repeated(2000) + "end";
+        writeLine(u"first");
+        writeLine(longLine.toStdU16String());
+        writeLine(u"last");
+        shown().selectAll();
+        shown().copy();
+        const QString all = QStringList({"first", longLine, "last", prompt}).join('\n');
+        QCOMPARE(QGuiApplication::clipboard()->text(), all);
+        // A part of it, over the end of a piece, and the end of the line.
+        QTextCursor cursor = shown().textCursor();
+        cursor.setPosition(3990);
+        cursor.setPosition(int(all.size()) + 2 - int(prompt.size()), QTextCursor::KeepAnchor);
+        shown().setTextCursor(cursor);
+        shown().copy();
+        // Two breaks are no part of the text.
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 all.mid(3990, all.size() - 3990 - prompt.size()));
+    }
+
+    void outputLeavesASelectionAlone() {
+        writeLine(u"some words");
+        QTextCursor cursor = shown().textCursor();
+        cursor.setPosition(5);
+        cursor.setPosition(10, QTextCursor::KeepAnchor);
+        shown().setTextCursor(cursor);
+        writeLine(u"more");
+        QCOMPARE(shown().textCursor().selectedText(), QString("words"));
+        shown().cmdExec("? 1");
+        QCOMPARE(shown().textCursor().selectedText(), QString("words"));
+        // A key goes to the input line as ever.
+        type(shown(), "x");
+        QCOMPARE(inputLine(), prompt + "x");
+        QVERIFY(!shown().textCursor().hasSelection());
+        // What is selected there goes with the line; the cursor stays in the new one.
+        cursor = shown().textCursor();
+        cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+        shown().setTextCursor(cursor);
+        writeLine(u"more");
+        QCOMPARE(inputLine(), prompt + "x");
+        QCOMPARE(cursorInLine(), int(inputLine().size()));
+    }
+
     void piecesOfALongLineHoldWholeCharacters() {
         // One of the two lines has a piece's end in the middle of such a character.
         for (const QString& start : {QString(), QString("a")}) {

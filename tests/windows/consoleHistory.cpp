@@ -131,6 +131,20 @@ private slots:
         QCOMPARE(history(), QStringList({"? 1"}));
     }
 
+    void blankInputGoesBehindTheLastCommand() {
+        write(historyName, "? 1\n? 2\n? 3\n");
+        start();
+        key(Qt::Key_Up);
+        key(Qt::Key_Up);
+        while (inputLine() != prompt) {
+            key(Qt::Key_Backspace);
+        }
+        enter("  ");
+        QCOMPARE(read(historyName), QByteArray("? 1\n? 2\n? 3\n"));
+        key(Qt::Key_Up);
+        QCOMPARE(inputLine(), prompt + "? 3");
+    }
+
     void oneCharacterAndFaultyCommandsEnter() {
         write(historyName, "");
         start();

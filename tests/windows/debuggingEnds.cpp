@@ -11,6 +11,10 @@ using consoleTest::prompt;
 using consoleTest::withoutTail;
 using consoleTest::write;
 
+namespace {
+const QString endOfTheFirst = "Прежняя программа под DEBUG остановлена.";
+}
+
 class debuggingEnds : public debugTest {
     Q_OBJECT
 
@@ -47,6 +51,9 @@ private slots:
         QCOMPARE(variable(u"c"), QString("3"));
         runThrough();
         QCOMPARE(variable(u"d"), QString("4"));
+        QCOMPARE(output_, QStringList({endOfTheFirst}));
+        // A program that has ended is no loss.
+        debug("e = 5;\n");
         QVERIFY2(output_.isEmpty(), qPrintable(output_.join('|')));
     }
 
@@ -100,6 +107,19 @@ private slots:
         QVERIFY(!output_.contains("never"));
     }
 
+    void allEditorsGoWithTheConsole() {
+        debug("a = 1;\n");
+        const QPointer<localVclWidgetEditor> first = shown().editor();
+        debug("b = 1;\n");
+        const QPointer<localVclWidgetEditor> second = shown().editor();
+        QVERIFY(second != first);
+        enter("TRACE watched.prg");
+        end();
+        QTRY_VERIFY(first.isNull());
+        QVERIFY(second.isNull());
+        QTRY_VERIFY(shownEditor() == nullptr);
+    }
+
     void consoleGoesAtAStopWithTheEditorsTextNotSaved() {
         debug("a = 1;\nb = 2;\n");
         consoleTest::type(*shown().editor(), "// ");
@@ -121,7 +141,7 @@ private slots:
         debug(program);
         QVERIFY(stepTo(program, "RETURN n"));
         QCOMPARE(debug("b = 2;\n"), 0);
-        QVERIFY2(output_.isEmpty(), qPrintable(output_.join('|')));
+        QCOMPARE(output_, QStringList({endOfTheFirst}));
         QCOMPARE(variable(u"a"), QString());
         // And a function of the first is as good as ever.
         QCOMPARE(outputOf("? f(5)"), QStringList({"5"}));

@@ -19,6 +19,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "localConsole/console/localConsoleHistory.h"
 #include "localConsole/console/localConsoleSettings.h"
@@ -97,6 +98,8 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    // Text alone, a long line of output being one line.
+    QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
 
@@ -152,6 +155,7 @@ private:
     localConsoleHistory history_;
     std::array<QString, 12> keyCommands_;
     QPointer<localVclWidgetEditor> editor_;
+    std::vector<QPointer<localVclWidgetEditor>> watched_;  // editors of all DEBUG and TRACE
     QPointer<localVclWidgetEditor> traced_;  // the editor of the TRACE that is just ending
     std::unique_ptr<MyThread> thread_;
 };

@@ -2,9 +2,9 @@
 // grows.
 //
 // A line reaches the file in one write, so that a process killed at any moment leaves it whole or
-// absent. The system may cut the write of a long line even so; a mark beside the file, the same name
-// and ".part", holds such a line while it is written. By it a piece is told from a line; the piece
-// does not count and goes with the next line that is written.
+// absent. The system may cut the write of a long line even so; a mark beside the file, the same
+// name and ".part", holds such a line while it is written. By it a piece is told from a line; the
+// piece does not count and goes with the next line that is written.
 #pragma once
 
 #include <QString>
@@ -20,6 +20,9 @@ public:
 
     // Enters a command unless it is the last one already, and stands behind the last.
     void enter(const QString& command);
+
+    // Stands behind the last command.
+    void goToEnd() { index_ = lines_.size(); }
 
     // The line before the place in the history, and goes there. Nothing at the oldest.
     std::optional<QString> back();
