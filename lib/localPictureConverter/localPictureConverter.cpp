@@ -2,11 +2,25 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 
 #include <algorithm>
 
+#include "localInterpretatorUTF8/text/localTrace.h"
+
 namespace localPictureConverter {
 namespace {
+
+// Null, with a line that says so, where the bytes are no picture.
+QImage imageOf(QByteArrayView bytes) {
+    // The toolkit's own bound is 128 megabytes, less than a page from a scanner.
+    QImageReader::setAllocationLimit(0);
+    const QImage image = QImage::fromData(bytes);
+    if (image.isNull()) {
+        traceLine(u"Это не картинка!", "imageOf");
+    }
+    return image;
+}
 
 std::u16string base64OfPng(const QImage& image) {
     QByteArray png;
@@ -25,13 +39,13 @@ int taken(int available, std::optional<int> wanted) {
 }  // namespace
 
 std::u16string pngAsBase64(std::string_view file) {
-    return base64OfPng(QImage::fromData(QByteArrayView(file.data(), qsizetype(file.size()))));
+    return base64OfPng(imageOf(QByteArrayView(file.data(), qsizetype(file.size()))));
 }
 
 std::optional<std::u16string> partAsBase64(std::u16string_view picture,
                                            const localPictureArea& area) {
     const QByteArray text = QStringView(picture.data(), qsizetype(picture.size())).toLatin1();
-    const QImage image = QImage::fromData(QByteArray::fromBase64(text));
+    const QImage image = imageOf(QByteArray::fromBase64(text));
     if (area.x > image.width() || area.y > image.height()) {
         return std::nullopt;
     }

@@ -1,5 +1,6 @@
 // Functions of the language that show something or ask a person, called by programs.
 #include <QApplication>
+#include <QBuffer>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -199,12 +200,25 @@ private slots:
         QTRY_VERIFY(windowTitled({}) == nullptr);
     }
 
-    void brokenPictureShowsAnEmptyWindow() {
+    void whatIsNoPictureSaysSo() {
         QCOMPARE(linesOf(QStringLiteral("? PIXMAPASBASE64SHOW(\"???\")")), QStringLiteral("1"));
         QWidget* const window = windowTitled({});
-        QVERIFY(window->findChild<QLabel*>()->pixmap().isNull());
+        QCOMPARE(window->findChild<QLabel*>()->text(), QStringLiteral("Это не картинка!"));
+        QVERIFY(saveScreenshot(*window, QStringLiteral("vclNoPicture")));
         window->close();
         QTRY_VERIFY(windowTitled({}) == nullptr);
+    }
+
+    // A page of 600 dots an inch.
+    void pictureOfMoreThan128MegabytesIsRead() {
+        QImage page(4961, 7016, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QByteArray png;
+        QBuffer buffer(&png);
+        QVERIFY(buffer.open(QIODevice::WriteOnly) && page.save(&buffer, "PNG"));
+        const QSize size = page.size();
+        page = {};
+        QCOMPARE(localVclPixmapFromBase64(QString::fromLatin1(png.toBase64())).size(), size);
     }
 
     void picturesAreCutByTheLinkedConverter() {

@@ -13,14 +13,18 @@ namespace {
 // In pixels. A window of a small picture still has a title to take it by.
 constexpr QSize smallestPictureWindow{240, 160};
 
-// A text that is no picture shows an empty window.
+// A text that is no picture shows a window that says so.
 bool pixmapAsBase64Show(localCall& call) {
     const QString picture = localVclQString(call.text(0));
     localVclOnWindowThread([&] {
         const QPixmap pixmap = localVclPixmapFromBase64(picture);
         auto* const label = new QLabel;
         label->setAlignment(Qt::AlignCenter);
-        label->setPixmap(pixmap);
+        if (pixmap.isNull()) {
+            label->setText(QStringLiteral("Это не картинка!"));
+        } else {
+            label->setPixmap(pixmap);
+        }
         auto* const shown = new QScrollArea;
         shown->setFrameShape(QFrame::NoFrame);
         shown->setWidgetResizable(true);

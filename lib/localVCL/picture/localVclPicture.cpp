@@ -4,10 +4,13 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
+#include <QImageReader>
 
 #include "icons/localIcons.h"
 
 QPixmap localVclPixmapFromBase64(QStringView text) {
+    // The toolkit's own bound is 128 megabytes, less than a page from a scanner.
+    QImageReader::setAllocationLimit(0);
     QPixmap pixmap;
     pixmap.loadFromData(QByteArray::fromBase64(text.toLatin1()));
     return pixmap;

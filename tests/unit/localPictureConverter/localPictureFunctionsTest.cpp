@@ -47,9 +47,26 @@ TEST_F(functions, aFileBecomesAPng) {
     std::ofstream("picture.png", std::ios::binary).write(bytes.data(), bytes.size());
     EXPECT_EQ(imageOf(call(u"PIXMAPASBASE64FROMFILEGET", u"picture.png")).size(), QSize(4, 3));
     std::ofstream("text.png", std::ios::binary) << "no picture";
+    output.clear();
     EXPECT_EQ(call(u"PIXMAPASBASE64FROMFILEGET", u"text.png").result->wStr.view(), u"");
+    EXPECT_THAT(output.lines(), testing::ElementsAre("Это не картинка!"));
     std::ofstream("empty.png", std::ios::binary);
     EXPECT_EQ(call(u"PIXMAPASBASE64FROMFILEGET", u"empty.png").result->wStr.view(), u"");
+}
+
+// A page of 600 dots an inch takes more than the 128 megabytes that the toolkit grants by itself.
+TEST_F(functions, theBoundOfAPictureIsTheMemory) {
+    QImage page(4961, 7016, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    ASSERT_TRUE(page.save("page.png"));
+    const QSize size = page.size();
+    page = {};
+    const auto text = call(u"PIXMAPASBASE64FROMFILEGET", u"page.png");
+    EXPECT_EQ(imageOf(text).size(), size);
+    EXPECT_EQ(imageOf(call(u"PIXMAPASBASE64PARTGET", std::u16string(text.result->wStr.view()),
+                           4000.0, 7000.0))
+                  .size(),
+              QSize(961, 16));
 }
 
 TEST_F(functions, aFileThatIsNotThereIsStatus23) {
