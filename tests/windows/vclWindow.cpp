@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -226,7 +227,8 @@ private slots:
         auto* const window = qobject_cast<QMdiSubWindow*>(shown);
         QVERIFY(window != nullptr);
         QCOMPARE(main.area->subWindowList(), QList<QMdiSubWindow*>({window}));
-        QCOMPARE(window->size(), QSize(311, 211));
+        // And the height of the tool bar, which holds actions here.
+        QCOMPARE(window->widget()->size(), QSize(311, 211 + 16));
         QCOMPARE(window->windowTitle(), QStringLiteral("Форма"));
         QCOMPARE(window->focusPolicy(), Qt::StrongFocus);
         auto* const scroll = window->findChild<QScrollArea*>();
@@ -245,6 +247,32 @@ private slots:
         const QPointer<QWidget> guard(content);
         QVERIFY(window->close());
         QTRY_VERIFY(guard.isNull());
+    }
+
+    void aSubWindowScrollsOnlyWhatIsCut() {
+        mdiWindow main;
+        auto* const content = new QWidget;
+        content->resize(300, 200);
+        auto* const window = qobject_cast<QMdiSubWindow*>(
+            localVclWindowShow(content, titled(QStringLiteral("Таблица"))));
+        QCOMPARE(window->widget()->size(), QSize(311, 211));
+        QCOMPARE(content->size(), QSize(300, 200));
+        QVERIFY(!toolBarOf(window)->isVisible());
+        auto* scroll = window->findChild<QScrollArea*>();
+        const auto bars = [&] {
+            return std::pair(scroll->horizontalScrollBar()->isVisible(),
+                             scroll->verticalScrollBar()->isVisible());
+        };
+        QTRY_VERIFY(bars() == std::pair(false, false));
+        QVERIFY(saveScreenshot(main, QStringLiteral("vclSubWindowPlain")));
+        window->resize(window->width() - 40, window->height() + 40);
+        QTRY_VERIFY(bars() == std::pair(true, false));
+
+        auto* const withActions = new contentForTest;
+        QWidget* const form = localVclWindowShow(withActions, titled(QStringLiteral("Форма")));
+        scroll = form->findChild<QScrollArea*>();
+        QTRY_VERIFY(bars() == std::pair(false, false));
+        withActions->mayClose = true;
     }
 
     void aSubWindowStandsWhereTheFocusWas() {

@@ -110,7 +110,10 @@ std::optional<QPoint> placeOfFocus(const QMdiArea& area) {
 QWidget* showInMdiArea(QMdiArea& area, QWidget* widget, QToolBar* bar,
                        const localVclWindowParameters& parameters) {
     const std::optional<QPoint> place = placeOfFocus(area);
-    const QSize size = widget->size() + QSize(subWindowMargin, subWindowMargin);
+    // An empty tool bar takes no room, and one with actions none from the widget.
+    bar->setVisible(!bar->actions().isEmpty());
+    const int barHeight = bar->actions().isEmpty() ? 0 : toolBarHeight;
+    const QSize size = widget->size() + QSize(subWindowMargin, subWindowMargin + barHeight);
     auto* const inner = new SubWindowContent(widget);
     auto* const layout = new QVBoxLayout(inner);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -124,7 +127,6 @@ QWidget* showInMdiArea(QMdiArea& area, QWidget* widget, QToolBar* bar,
                                 static_cast<QWidget*>(scroll)}) {
         part->setAttribute(Qt::WA_DeleteOnClose);
     }
-    inner->resize(size);
     window->resize(size);
     if (place) {
         window->move(*place);
@@ -137,6 +139,8 @@ QWidget* showInMdiArea(QMdiArea& area, QWidget* widget, QToolBar* bar,
     window->setFocusPolicy(Qt::StrongFocus);
     window->setFocus(Qt::OtherFocusReason);
     window->show();
+    // The frame, whose size is known by now, stands around what has that size.
+    window->resize(window->size() + size - inner->size());
     return window;
 }
 
