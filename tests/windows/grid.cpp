@@ -556,6 +556,9 @@ private slots:
         keys(*shown, {Qt::Key_Down, Qt::Key_Right});
         QTest::keyClick(shown.get(), 'c', Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), QString("1/1"));
+        keys(*shown, {Qt::Key_Up});
+        QTest::keyClick(shown.get(), Qt::Key_Insert, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QString("0/1"));
     }
 
     void copiesABlock() {

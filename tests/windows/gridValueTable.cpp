@@ -1,4 +1,5 @@
 // The live grid of value tables: what it shows, its layout, and tables that change under it.
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QMenu>
 #include <QPlainTextEdit>

@@ -82,15 +82,14 @@ void localVclGrid200123::keyPressEvent(QKeyEvent* event) {
                 goToEnd();
             }
             break;
-        case Qt::Key_C:
-            if (event->modifiers() == Qt::ControlModifier) {
-                copy();
-            }
-            break;
         case Qt::Key_F12:
             openLayoutDialog();
             break;
         default:
+            // Whatever the desktop has for it, Ctrl+C on all keyboards.
+            if (event->matches(QKeySequence::Copy)) {
+                copy();
+            }
             break;
     }
     searchTextKey(*event);
