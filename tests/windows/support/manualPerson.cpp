@@ -24,6 +24,7 @@
 #include "localConsole/help/localConsoleHelpBrowser.h"
 #include "localDbVcl/manager/localDbManagerTableView.h"
 #include "localDbVcl/manager/localDbTree.h"
+#include "localForm/run/localForm.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/dialog/localVclListDialog.h"
 #include "localVCL/editor/localDialogFindString.h"
@@ -92,7 +93,8 @@ const QMap<QString, bool (*)(QWidget&)> windowKinds = {
     {"руководства", holds<localConsoleHelpBrowser>},
     {"сообщения", holds<QMessageBox>},
     {"текста", isText},
-    {"файла", holds<QFileDialog>}};
+    {"файла", holds<QFileDialog>},
+    {"формы", holds<localForm>}};
 
 QString titleOf(const QWidget& window) {
     return window.windowTitle().replace("[*]", window.isWindowModified() ? "*" : "");
