@@ -310,14 +310,15 @@ private slots:
         const QString layout = "{'grid':{'columns':[{'id':'ТОВАР','caption':'Товар','width':120},"
                                "{'formula':'Цена*2','caption':'Дважды','width':80}],"
                                "'dataSource':{'varName':'т'}}}";
-        localForm* const form = open(
-            widget("Table", "x=\"10\" y=\"10\" w=\"300\" h=\"120\" details=\"" +
-                                QString(layout).replace('\'', '"').toHtmlEscaped() + "\"") +
-                button(5, "fill(\"Болт\");"),
-            "т = 0;\nFUNCTION fill(name)\nт = CREATEOBJECT(\"VALUETABLE\");\n"
-            "т.COLUMNADD(\"Товар\"); т.COLUMNADD(\"Цена\");\n"
-            "т.ROWADD(); т.VALUESET(1, \"Товар\", name); т.VALUESET(1, \"Цена\", 21);\nRETURN 1;\nENDFUNCTION;\n"
-            "fill(\"Гвоздь\");");
+        localForm* const form =
+            open(widget("Table", "x=\"10\" y=\"10\" w=\"300\" h=\"120\" details=\"" +
+                                     QString(layout).replace('\'', '"').toHtmlEscaped() + "\"") +
+                     button(5, "fill(\"Болт\");"),
+                 "т = 0;\nFUNCTION fill(name)\nт = CREATEOBJECT(\"VALUETABLE\");\n"
+                 "т.COLUMNADD(\"Товар\"); т.COLUMNADD(\"Цена\");\n"
+                 "т.ROWADD(); т.VALUESET(1, \"Товар\", name); т.VALUESET(1, \"Цена\", 21);\n"
+                 "RETURN 1;\nENDFUNCTION;\n"
+                 "fill(\"Гвоздь\");");
         QVERIFY(form != nullptr);
         auto* const grid =
             qobject_cast<localVclTestWidgetValueTable200617*>(element(form)->carried());
@@ -332,6 +333,7 @@ private slots:
         QCOMPARE(cell(2), "42");
         press(form, 1);
         QCOMPARE(cell(1), "Болт");
+        QTest::qWait(50);
         QVERIFY(saveScreenshot(*form->window(), "formTable"));
         QSignalSpy changed(element(form), &Element::varValueChanged);
         QTest::mouseClick(grid, Qt::LeftButton, {}, grid->cellRectangle(1, 1).center());
