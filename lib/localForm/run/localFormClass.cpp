@@ -30,7 +30,7 @@ bool refresh(localCall& call) {
     return call.give(0.0);
 }
 
-void* noConstructor() {
+void* noConstructor(localContextUTF8*) {
     traceLine(u" localForm::classImplementationMethodFunction() CONSTRUNCTOR not AVAILABLE!",
               "classImplementationMethodFunction");
     return nullptr;
