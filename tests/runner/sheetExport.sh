@@ -27,9 +27,9 @@ sheet.SHOW("Отчет");
 RETURN 1;
 KORVO
 sed -i "s/\"Товар; сорт \"\"первый\"\"\"/'Товар; сорт \"первый\"'/" report.prg
-printf %s 'iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGP4z8AAAAMBAQDJ/pLvAAAAAElFTkSu' \
+printf %s 'iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGP4z8AAAAMBAQDJ' \
     >picture.txt
-printf %s QmCC >>picture.txt
+printf %s '/pLvAAAAAElFTkSuQmCC' >>picture.txt
 
 # reads FILE.csv|FILE.xlsx: what a reader of others finds, a line a cell
 reads() {
