@@ -18,8 +18,7 @@ using manualExample::step;
 namespace {
 
 // Examples of functions whose library is not part of the program yet: each ends with that status.
-const QStringList libraryMissing = {"CONTEXT:FORMEDIT", "CONTEXT:NETWORKREQUESTEXECSYNC",
-                                    "VALUETABLE:SHOW"};
+const QStringList libraryMissing = {"CONTEXT:FORMEDIT", "CONTEXT:NETWORKREQUESTEXECSYNC"};
 
 const QString program = "example.prg";
 

@@ -25,6 +25,7 @@
 #include "localDbVcl/manager/localDbManagerTableView.h"
 #include "localDbVcl/manager/localDbTree.h"
 #include "localForm/run/localForm.h"
+#include "localSxlVcl/sheet/localSxl.h"
 #include "localVCL/dialog/localCalendar.h"
 #include "localVCL/dialog/localVclListDialog.h"
 #include "localVCL/editor/localDialogFindString.h"
@@ -89,6 +90,7 @@ const QMap<QString, bool (*)(QWidget&)> windowKinds = {
     {"картинки", isPicture},
     {"поиска", holds<localDialogFindString>},
     {"просмотра", holds<localVclGrid200123>},
+    {"документа", holds<localSxl>},
     {"редактора", holds<localVclWidgetEditor>},
     {"руководства", holds<localConsoleHelpBrowser>},
     {"сообщения", holds<QMessageBox>},
