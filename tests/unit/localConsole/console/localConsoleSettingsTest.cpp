@@ -98,14 +98,15 @@ TEST_F(consoleSettings, aFolderInThePlaceOfTheFileFailsTheSaving) {
 }
 
 TEST_F(consoleSettings, whatAPersonWroteStaysByteForByte) {
-    write(
-        "\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", // brackets, \"quotes\"\r\n"
-        "\t\"on\" : true, \"width\":640.5,\"bytes\": \"\xFF\",\r\n"
-        "\t\"deep\": {\"height\": [1, {\"x\": 2}]}\r\n}\r\n behind");
+    write("\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", "
+          "// brackets, \"quotes\"\r\n"
+          "\t\"on\" : true, \"width\":640.5,\"bytes\": \"\xFF\",\r\n"
+          "\t\"deep\": {\"height\": [1, {\"x\": 2}]}\r\n}\r\n behind");
     EXPECT_TRUE(localConsoleSettings().geometrySave(QRect(-7, 8, 641, 480)));
     EXPECT_EQ(
         read(),
-        "\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", // brackets, \"quotes\"\r\n"
+        "\xEF\xBB\xBF// own keys\r\n{\r\n\t\"F3\": \"? \\\"[a]{b}\\\"\", "
+        "// brackets, \"quotes\"\r\n"
         "\t\"on\" : true, \"width\":641,\"bytes\": \"\xFF\",\r\n"
         "\t\"deep\": {\"height\": [1, {\"x\": 2}]}, \"height\": 480, \"x\": -7, \"y\": 8\r\n}\r\n"
         " behind");
