@@ -98,7 +98,13 @@ void localRefBrowsePosition::setHierarchical(bool on) {
                 key.emplace_back(localVclText(folder[i]));
             }
             source().fillFromKeyVal(key);
-            place(0);
+            // Others may have its key.
+            const QString id = source().cellOf(folder, colId_);
+            std::uint32_t row = 0;
+            while (row + 1 < size() && source().cell(row, colId_) != id) {
+                ++row;
+            }
+            place(row);
         }
     }
     const Index* const before = source().currentIdx();

@@ -258,8 +258,10 @@ public:
     }
     // How often a key is pressed on end: people hold the arrows.
     int times(std::uint32_t number) {
-        return static_cast<int>(number < 4 ? 1 + upTo(200) : number < 8 ? 1 + upTo(9) : 1);
+        return static_cast<int>(number < 4 ? 1 + upTo(300) : number < 8 ? 1 + upTo(9) : 1);
     }
+    // Where a key may go on from: one that has moved nothing is not pressed again.
+    std::pair<std::size_t, std::size_t> standing() const { return {place(), top()}; }
     // What went wrong, for a person.
     std::string after(std::uint32_t key, int pressed) const {
         return "key " + std::to_string(key) + " after " + std::to_string(pressed) + ", window of " +
