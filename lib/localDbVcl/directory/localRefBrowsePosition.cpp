@@ -92,14 +92,14 @@ void localRefBrowsePosition::setHierarchical(bool on) {
         source().setFixedKeyValues({});
         if (!hasRow() && !ancestors.empty()) {
             // From an empty folder a person comes to the folder itself.
-            const Row& folder = ancestors.back();
+            const QString id = source().cellOf(ancestors.back(), colId_);
+            // Its key in the order there is now; others may have the same.
+            const Row folder = source().getTmpRowById(id.toLongLong());
             localDbKey key;
             for (std::size_t i = 0; i + source().sqlExpressions().size() < folder.size(); ++i) {
                 key.emplace_back(localVclText(folder[i]));
             }
             source().fillFromKeyVal(key);
-            // Others may have its key.
-            const QString id = source().cellOf(folder, colId_);
             std::uint32_t row = 0;
             while (row + 1 < size() && source().cell(row, colId_) != id) {
                 ++row;
