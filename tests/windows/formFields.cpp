@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 
 #include "formTest.h"
+#include "localSxlVcl/sheet/localSxl.h"
 #include "localVCL/edit/localVclEditWidgetNumeric.h"
 
 class formFields : public formTest {
@@ -129,6 +130,35 @@ private slots:
         QCOMPARE(value(form, "a"), "typed");
         QCOMPARE(shown(form), "typed");
         QCOMPARE(QApplication::focusWidget(), line(form));
+    }
+
+    // A table document stands in its field as a sheet, whichever the variable holds now.
+    void aTableDocumentIsASheet() {
+        localForm* const form =
+            open(widget("Edit", "x=\"10\" y=\"10\" w=\"360\" h=\"160\" Identifier=\"s\" "
+                                "Type=\"Табличный документ\"") +
+                     button(6, "s.CELLTEXTSET(1, 1, \"Отчёт\");") +
+                     button(7, "s = CREATEOBJECT(\"TABLEDOCUMENT\"); "
+                               "s.CELLTEXTSET(1, 1, \"Другой\");"),
+                 "s = 5;");
+        const auto cell = [&] {
+            const localTurn::Hold turn;
+            const auto* const sheet = qobject_cast<localSxl*>(field(form)->editor());
+            return sheet == nullptr ? QString("no sheet") : sheet->cellText(1, 1);
+        };
+        QCOMPARE(cell(), "");
+        QCOMPARE(field(form)->editor()->focusPolicy(), Qt::StrongFocus);
+        press(form);
+        QCOMPARE(cell(), "Отчёт");
+        QTest::qWait(50);
+        QVERIFY(saveScreenshot(*form->window(), "formSheet"));
+        press(form, 1);
+        QCOMPARE(cell(), "Другой");
+        QTest::keyClick(field(form)->editor(), Qt::Key_F4);
+        form->refresh();
+        QCOMPARE(form->findChildren<localVclWidgetEdit*>().size(), 1);
+        host_.answers = {Button::yes};
+        QVERIFY(form->window()->close());
     }
 
     void f4ChoosesANumber() {

@@ -10,11 +10,13 @@
 #include "localInterpretatorUTF8/text/localCharacters.h"
 #include "localInterpretatorUTF8/text/localTrace.h"
 #include "localInterpretatorUTF8/thread/localTurn.h"
+#include "localSxlVcl/sheet/localSxl.h"
 #include "localVCL/edit/localVclEditWidgetNumeric.h"
 #include "localVCL/text/localVclText.h"
 
 namespace {
 
+constexpr std::u16string_view tableDocumentClass = u"TABLEDOCUMENT";
 constexpr int numberLength = 12;
 constexpr int numberDecimals = 3;
 constexpr double largestChosen = 2000000000;
@@ -63,6 +65,10 @@ localVclWidgetEdit::~localVclWidgetEdit() {
 }
 
 void localVclWidgetEdit::editorMake(const localValueDescription& value) {
+    if (isClass(value, tableDocumentClass)) {
+        sheetShow(value);
+        return;
+    }
     if (value.type == localValueTypeNUMBER) {
         auto* const numeric = new localVclEditWidgetNumeric(numberLength, numberDecimals, true,
                                                             asFixed(value.num), this);
@@ -85,8 +91,22 @@ void localVclWidgetEdit::editorMake(const localValueDescription& value) {
     setFocusProxy(editor_);
 }
 
+void localVclWidgetEdit::sheetShow(const localValueDescription& value) {
+    auto* const sheet = new localSxl(value, this);
+    sheet->setFocusPolicy(Qt::StrongFocus);
+    static_cast<QHBoxLayout*>(layout())->insertWidget(0, sheet, 1);
+    setFocusProxy(sheet);
+    if (editor_ != nullptr) {
+        // It may be at work: a program took its sheet away at a key in it.
+        editor_->hide();
+        editor_->deleteLater();
+    }
+    editor_ = sheet;
+    sheet_ = value.pointer;
+}
+
 QLineEdit* localVclWidgetEdit::line() const {
-    return static_cast<QLineEdit*>(editor_);
+    return qobject_cast<QLineEdit*>(editor_);
 }
 
 localValueDescription* localVclWidgetEdit::variable() const {
@@ -140,7 +160,11 @@ void localVclWidgetEdit::buttonEnable(Button button, bool on) {
 
 void localVclWidgetEdit::varRead() {
     const localValueDescription& value = variableFor(u"varRead");
-    if (value.type != localValueTypeSTRING || line()->hasFocus() || name_.empty()) {
+    if (sheet_ != nullptr && isClass(value, tableDocumentClass) && value.pointer != sheet_) {
+        sheetShow(value);
+    }
+    if (line() == nullptr || value.type != localValueTypeSTRING || line()->hasFocus() ||
+        name_.empty()) {
         return;
     }
     const QString text = localVclQString(value.wStr);
@@ -165,6 +189,9 @@ void localVclWidgetEdit::paintEvent(QPaintEvent* event) {
 
 void localVclWidgetEdit::editingFinishedSlot() {
     localValueDescription& value = variableFor(u"editingFinishedSlot");
+    if (line() == nullptr) {
+        return;
+    }
     const QString text = line()->text();
     if (value.type == localValueTypeNUMBER) {
         const double number = text.toDouble();
@@ -243,6 +270,9 @@ void localVclWidgetEdit::open() {
 
 void localVclWidgetEdit::SelectFormSignalAppliedSlot() {
     const localValueDescription& value = variableFor(u"SelectFormSignalAppliedSlot");
+    if (line() == nullptr) {
+        return;
+    }
     if (value.type == localValueTypeNUMBER) {
         if (auto* const numeric = qobject_cast<localVclEditWidgetNumeric*>(editor_)) {
             // Six digits, whatever was chosen. Meant.

@@ -45,8 +45,9 @@ public:
 
     // Makes the button, or takes it away; nothing is looked up for that.
     void buttonEnable(Button button, bool on);
-    // Shows a text variable in the line, unless the person is in it. Numbers are shown by their
-    // editor alone, also when a program has changed them. Meant.
+    // Shows a text variable in the line, unless the person is in it, and the table document that a
+    // variable holds now. Numbers are shown by their editor alone, also when a program has changed
+    // them. Meant.
     void varRead();
     // As varRead, for the field of a variable that may have gone; when the turn can be had.
     void refresh();
@@ -76,6 +77,9 @@ private:
     // Does what a person asks for, when the language's turn is there and the variable stands.
     void whenVariableStands(const std::function<void()>& work);
     void editorMake(const localValueDescription& value);
+    // The sheet that a table document is, in place of the one before.
+    void sheetShow(const localValueDescription& value);
+    // Null in a field of a sheet.
     QLineEdit* line() const;
 
     std::unique_ptr<localContextUTF8> ownContext_;
@@ -85,5 +89,6 @@ private:
     QPushButton* buttonOpen_ = nullptr;
     QPushButton* buttonChoose_ = nullptr;
     QWidget* editor_ = nullptr;
+    const void* sheet_ = nullptr;  // the table document shown, only compared
     localVclTurnWork work_;
 };
