@@ -137,7 +137,7 @@ private slots:
         localForm* const form =
             open(widget("Edit", "x=\"10\" y=\"10\" w=\"360\" h=\"160\" Identifier=\"s\" "
                                 "Type=\"Табличный документ\"") +
-                     button(6, "s.CELLTEXTSET(1, 1, \"Отчёт\");") +
+                     button(6, "s.CLEAR(); s.CELLTEXTSET(1, 1, \"Отчёт\");") +
                      button(7, "s = CREATEOBJECT(\"TABLEDOCUMENT\"); "
                                "s.CELLTEXTSET(1, 1, \"Другой\");"),
                  "s = 5;");
