@@ -130,7 +130,7 @@ bool localConsoleSettings::geometrySave(const QRect& geometry) {
     if (stands && !file.open(QIODevice::ReadOnly)) {
         return false;
     }
-    const std::string before = file.readAll().toStdString();
+    const std::string before = stands ? file.readAll().toStdString() : std::string();
     std::string text = before;
     if (QByteArray::fromStdString(text).trimmed().isEmpty()) {
         localSlot list = localSlot::reserve();
