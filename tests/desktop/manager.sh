@@ -23,11 +23,11 @@ sqlGives() {
 
 # expectWindow TITLE: a window of that title, a regular expression, has the keyboard; it is $window.
 expectWindow() {
-    waitFor 30 isActive "$1" || fail "no window $1 in front"
+    waitFor 30 hasTitle "$1" || fail "no window $1 in front"
     window="$(xdotool getactivewindow)"
 }
 
-isActive() {
+hasTitle() {
     xdotool getactivewindow getwindowname | grep -q -- "^$1\$"
 }
 
