@@ -274,7 +274,7 @@ void localDbtBrowseWidget200123::keepCursorInSight() {
     }
 }
 
-void localDbtBrowseWidget200123::resizeEvent(QResizeEvent* event) {
+void localDbtBrowseWidget200123::resizeEvent(QResizeEvent*) {
     if (2 * visibleRows() > localDbDataSource200123::bufferSize) {
         localHost::current().report({.kind = localReport::Kind::critical,
                                      .title = u"resizeEvent",
@@ -285,7 +285,6 @@ void localDbtBrowseWidget200123::resizeEvent(QResizeEvent* event) {
     }
     keepCursorInSight();
     reposition();
-    QWidget::resizeEvent(event);
     refresh();
     move([this] { position_->resize(visibleRows()); });
 }

@@ -26,6 +26,7 @@ struct Sample {
 
 std::shared_ptr<Source> sourceOf(const Sample& sample) {
     std::vector<Source::SqlExpression> expressions;
+    expressions.reserve(sample.expressions.size());
     for (const char16_t* const expression : sample.expressions) {
         expressions.push_back({.sqlExpression = expression});
     }
