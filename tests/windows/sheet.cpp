@@ -375,7 +375,10 @@ private slots:
         QPointer<QWidget> asking;
         const dialogAnswer answer([&](QWidget* dialog) {
             asking = dialog;
-            shown.scope.reset();
+            {
+                const localTurn::Hold turn;
+                shown.scope.reset();
+            }
             qobject_cast<QInputDialog*>(dialog)->accept();
         });
         QTest::mouseDClick(shown.widget, Qt::LeftButton, {}, QPoint(30 + 40, 8));

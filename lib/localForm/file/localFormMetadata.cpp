@@ -47,6 +47,7 @@ std::optional<localFormWidgetKind> kindByName(const QString& name) {
 // A form has three levels; the toolkit tears documents down by recursion.
 constexpr int deepest = 200;
 constexpr qint64 longestFile = qint64{1} << 28;
+constexpr qint64 pieceLength = qint64{1} << 16;
 constexpr float largestPointSize = 1000;
 
 struct Fault {
@@ -69,7 +70,13 @@ std::optional<QByteArray> readFile(std::u16string_view fileName) {
     if (!file.open(opened, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         return std::nullopt;
     }
-    QByteArray bytes = file.read(longestFile + 1);
+    // In pieces: the toolkit asks at once for all the room that it may need, and a device has no
+    // length.
+    QByteArray bytes;
+    for (QByteArray piece = file.read(pieceLength); !piece.isEmpty() && bytes.size() <= longestFile;
+         piece = file.read(pieceLength)) {
+        bytes += piece;
+    }
     return file.error() != QFileDevice::NoError || bytes.size() > longestFile
                ? std::nullopt
                : std::optional(std::move(bytes));
