@@ -6,18 +6,18 @@
 #include "localInterpretatorUTF8/status/localGuard.h"
 #include "localInterpretatorUTF8/text/localCharacters.h"
 
-std::optional<localText> localFormFormulaValue(const std::shared_ptr<localFormScope>& scope,
-                                               const std::u16string& formula) {
+std::optional<std::u16string> localFormFormulaValue(const std::shared_ptr<localFormScope>& scope,
+                                                    const std::u16string& formula) {
     const localFormScope::Use use(scope);
     int status = localErrorTypeOK;
-    std::optional<localText> text;
+    std::optional<std::u16string> text;
     localGuarded(status, __func__, [&] {
         const std::u16string expression(trimBoth(formula));
         localInterpretatorUTF8::localPosition position = 0;
         localSlot value;
         if (localInterpretatorUTF8::scanStringGetExpressionAndEvaluete(
                 status, expression, position, value.asResult(), &scope->context, false)) {
-            text = value->toString();
+            text = std::u16string(value->toString().view());
         }
         return text.has_value();
     });

@@ -5,13 +5,11 @@
 #include <optional>
 #include <string>
 
-#include "localInterpretatorUTF8/text/localText.h"
-
 class localFormScope;
 
 // The text of what the expression gives; nothing when it fails.
-std::optional<localText> localFormFormulaValue(const std::shared_ptr<localFormScope>& scope,
-                                               const std::u16string& formula);
+std::optional<std::u16string> localFormFormulaValue(const std::shared_ptr<localFormScope>& scope,
+                                                    const std::u16string& formula);
 
 // Runs the statements, under the wait cursor. No statements are done at once.
 bool localFormFormulaRun(const std::shared_ptr<localFormScope>& scope,

@@ -290,7 +290,7 @@ void localFormLayoutDesignerElementWidget::refresh() {
 void localFormLayoutDesignerElementWidget::formulaShow() {
     // The work may outlive this element.
     const QPointer<localFormLayoutDesignerElementWidget> stands(this);
-    const std::optional<localText> given = localFormFormulaValue(scope_, facts_.formula);
+    const std::optional<std::u16string> given = localFormFormulaValue(scope_, facts_.formula);
     if (stands && given) {
         textShow(localVclQString(*given));
     }

@@ -69,7 +69,8 @@ localForm::localForm(std::u16string_view fileName, const localValueList* paramet
     refresh();
     update();
     resize(size());
-    afterCreateEvent();
+    // A derived form has no say in its making yet.
+    localForm::afterCreateEvent();
 }
 
 localForm::~localForm() {
@@ -172,7 +173,7 @@ void localForm::widgetMake(const localFormWidgetDescription& record) {
 
 void localForm::editMake(const localFormWidgetDescription& record) {
     variableMake(record);
-    localVclWidgetEdit* const edit = editCreate(record.identifier, &scope_->context);
+    localVclWidgetEdit* const edit = localForm::editCreate(record.identifier, &scope_->context);
     edit->setParent(this);
     connect(edit, &localVclWidgetEdit::varValueChanged, this, &localForm::valueModifiedSlot);
     edit->setGeometry(record.x, record.y, record.width, record.height);
