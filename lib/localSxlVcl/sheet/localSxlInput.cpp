@@ -175,5 +175,5 @@ void localSxl::wheelEvent(QWheelEvent* event) {
     const bool isSideways = event->modifiers().testFlag(Qt::ShiftModifier);
     const int rows = isSideways ? 0 : notchesOf(wheelRest_.ry(), way.y());
     const int columns = notchesOf(wheelRest_.rx(), isSideways && way.x() == 0 ? way.y() : way.x());
-    inTurn([this, rows, columns] { scroll(-rows * rowsANotch, -columns); });
+    inTurn([this, rows, columns] { scroll(-std::int64_t{rows} * rowsANotch, -columns); });
 }
