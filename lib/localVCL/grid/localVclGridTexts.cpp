@@ -182,7 +182,7 @@ bool localVclGrid200123::collectRow(unsigned row, const QRegion& region, Collect
             before->pixmap.cacheKey() != now.pixmap.cacheKey()) {
             changed |= cell;
         }
-        collected.shown.insert(key, std::move(now));
+        collected.shown.insert(key, now);
     }
     collected.changed += changed;
     return watch.stands();

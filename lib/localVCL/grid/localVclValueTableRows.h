@@ -12,7 +12,7 @@
 class localContextUTF8;
 class localValueTable;
 
-class localVclValueTableRows : public localVclGridRows {
+class localVclValueTableRows final : public localVclGridRows {
 public:
     // Rows of the table that the value holds, which is kept. Made under the turn.
     explicit localVclValueTableRows(const localValueDescription& table);
